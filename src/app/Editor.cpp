@@ -1,0 +1,97 @@
+#include "app/Editor.h"
+
+#include <chrono>
+#include <random>
+
+namespace {
+
+std::function<double()> clockSeededRandom() {
+    auto engine = std::make_shared<std::mt19937>(
+        static_cast<unsigned>(std::chrono::steady_clock::now().time_since_epoch().count()));
+    return [engine] { return std::uniform_real_distribution<double>(0.0, 1.0)(*engine); };
+}
+
+} // namespace
+
+Editor::Editor(Services s)
+    : services(std::move(s)), tools(*this), selection(*this), files(*this) {
+    if (!services.random)
+        services.random = clockSeededRandom();
+}
+
+void Editor::startUp() { newIcon(1); }
+
+bool Editor::shutDown() {
+    commitSelection();
+    if (doc.modified && !offerToSave())
+        return false;
+    undoRedo.Reset();
+    return true;
+}
+
+void Editor::newIcon(int sizeIndex) {
+    commitSelection();
+    if (doc.modified && !offerToSave())
+        return;
+    if (!doc.opening)
+        windowTitle = QStringLiteral("Brevik - Untitled");
+    canvas.PicIcon.fill(kButtonFace);
+    doc.filePath.clear();
+    doc.fileTitle.clear();
+    tools.resetToPencil();
+    doc.hasFile = false;
+    services.letEventsRun();
+    doc.resize(sizeIndex);
+    canvas.placePreview(doc.size);
+    canvas.clear();
+    canvas.drawBackground(doc.zoom);
+    canvas.present(doc.zoom);
+    colours.reset();
+    if (!doc.opening) {
+        undoRedo.Reset();
+        undoRedo.Push(doc);
+    }
+    doc.modified = false;
+}
+
+void Editor::refresh() { canvas.refreshFromPlanes(doc); }
+
+void Editor::recordEdit() {
+    undoRedo.ClearRedo();
+    undoRedo.Push(doc);
+}
+
+void Editor::editAction(int index) {
+    switch (index) {
+    case 0:
+        undo();
+        break;
+    case 1:
+        redo();
+        break;
+    case 9:
+        commitSelection();
+        break;
+    default:
+        break;
+    }
+}
+
+void Editor::undo() {
+    commitSelection();
+    undoRedo.Undo(doc);
+    refresh();
+}
+
+void Editor::redo() {
+    commitSelection();
+    undoRedo.Redo(doc);
+    refresh();
+}
+
+void Editor::commitSelection() {
+    if (selection.exists())
+        selection.CommitSelection();
+}
+
+bool Editor::offerToSave() { return files.saveChangesPrompt(); }

@@ -1,0 +1,102 @@
+#include "canvas/Canvas.h"
+
+#include "canvas/Resources.h"
+#include "document/IconDocument.h"
+#include "platform/Raster.h"
+#include "platform/Shapes.h"
+
+Canvas::Canvas()
+    : PicMain(kPictureSize, kPictureSize, kWhite), PicMainCopy(kCanvasSize, kCanvasSize, kWhite) {
+    placePreview(32);
+}
+
+void Canvas::placePreview(int size) {
+    PicIcon.reset(size, size, kButtonFace);
+    previewLeft = kPreviewCentreX - size / 2;
+    previewTop = kPreviewCentreY - size / 2;
+}
+
+void Canvas::clear() {
+    PicMain.fill(kWhite);
+    PicMainCopy.fill(kWhite);
+}
+
+void Canvas::drawBackground(int zoom) {
+    PicMainCopy.fill(kWhite);
+    const Plane& pattern = Resources::transparentPattern();
+    for (int j = 0; j * zoom < kCanvasSize; ++j)
+        for (int i = 0; i * zoom < kCanvasSize; ++i)
+            bitBlt(PicMainCopy, 1 + i * zoom, 1 + j * zoom, zoom - 2, zoom - 2, pattern, 0, 0,
+                   RasterOp::Copy);
+}
+
+void Canvas::drawGrid(int zoom) {
+    const Plane& across = Resources::horizontalGridLine();
+    const Plane& down = Resources::verticalGridLine();
+    for (int k = 0; k <= kCanvasSize; k += zoom) {
+        bitBlt(PicMain, 0, k, kPictureSize, 1, across, 0, 0, RasterOp::Copy);
+        bitBlt(PicMain, k, 0, 1, kPictureSize, down, 0, 0, RasterOp::Copy);
+    }
+}
+
+void Canvas::present(int zoom) {
+    bitBlt(PicMain, 0, 0, kCanvasSize, kCanvasSize, PicMainCopy, 0, 0, RasterOp::Copy);
+    drawGrid(zoom);
+}
+
+void Canvas::compose(const IconDocument& doc) {
+    const int n = doc.size;
+    drawBackground(doc.zoom);
+    stretchBlt(PicMainCopy, 0, 0, kCanvasSize, kCanvasSize, doc.PicMask, 0, 0, n, n,
+               RasterOp::And);
+    stretchBlt(PicMainCopy, 0, 0, kCanvasSize, kCanvasSize, doc.PicImage, 0, 0, n, n,
+               RasterOp::Xor);
+    present(doc.zoom);
+    PicIcon.fill(kButtonFace);
+    bitBlt(PicIcon, 0, 0, n, n, doc.PicMask, 0, 0, RasterOp::And);
+    bitBlt(PicIcon, 0, 0, n, n, doc.PicImage, 0, 0, RasterOp::Xor);
+}
+
+void Canvas::refreshFromPlanes(IconDocument& doc) {
+    compose(doc);
+    doc.modified = true;
+}
+
+void Canvas::drawFloating(const IconDocument& doc, int left, int top, int right, int bottom) {
+    const int w = doc.PicSelMask.width(), h = doc.PicSelMask.height();
+    stretchBlt(PicMain, left, top, right - left, bottom - top, doc.PicSelMask, 0, 0, w, h,
+               RasterOp::And);
+    stretchBlt(PicMain, left, top, right - left, bottom - top, doc.PicSelImage, 0, 0, w, h,
+               RasterOp::Xor);
+    drawGrid(doc.zoom);
+    const int x = left / doc.zoom, y = top / doc.zoom;
+    bitBlt(PicIcon, x, y, w, h, doc.PicSelMask, 0, 0, RasterOp::And);
+    bitBlt(PicIcon, x, y, w, h, doc.PicSelImage, 0, 0, RasterOp::Xor);
+}
+
+void Canvas::refreshWithFloating(IconDocument& doc, int left, int top, int right, int bottom) {
+    refreshFromPlanes(doc);
+    drawFloating(doc, left, top, right, bottom);
+    drawSelectionRect(left, top, right, bottom);
+}
+
+void Canvas::drawSelectionRect(int left, int top, int right, int bottom) {
+    drawBox(PicMain, left, top, right, bottom, Pen{kBlack, 3, PenMode::Invert});
+}
+
+void Canvas::paintCell(int zoom, int cornerX, int cornerY, std::optional<Colour> colour) {
+    const int first = 1, last = zoom - 1; // the cell interior, inside the grid line
+    for (Plane* plane : {&PicMain, &PicMainCopy}) {
+        if (colour) {
+            fillBox(*plane, cornerX + first, cornerY + first, cornerX + last, cornerY + last,
+                    *colour);
+        } else {
+            // The same look the background gives an empty cell: the hatch
+            // with a white edge on the right and at the bottom.
+            fillBox(*plane, cornerX + first, cornerY + first, cornerX + last, cornerY + last,
+                    kWhite);
+            bitBlt(*plane, cornerX + 1, cornerY + 1, zoom - 2, zoom - 2,
+                   Resources::transparentPattern(), 0, 0, RasterOp::Copy);
+        }
+    }
+}

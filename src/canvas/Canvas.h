@@ -1,0 +1,61 @@
+#pragma once
+
+#include "platform/Plane.h"
+
+#include <optional>
+
+class IconDocument;
+
+// The two views of the document: the zoomed canvas PicMain (385 x 385, drawn
+// through the 384 x 384 back buffer PicMainCopy) and the actual-size preview
+// PicIcon. The widgets only put these planes on screen.
+class Canvas {
+public:
+    static constexpr int kCanvasSize = 384;
+    static constexpr int kPictureSize = 385;
+    // The point of the window's client area the preview is centred on.
+    static constexpr int kPreviewCentreX = 456;
+    static constexpr int kPreviewCentreY = 38;
+
+    Canvas();
+
+    // Sizes the preview to N x N, centres it on the preview box and clears it.
+    void placePreview(int size);
+    // Clears PicMain and PicMainCopy to white.
+    void clear();
+
+    // PicMainCopy: white, with the hatch inside every cell.
+    void drawBackground(int zoom);
+    // PicMain: the dotted grid on the first row and column of every cell and
+    // on row and column 384.
+    void drawGrid(int zoom);
+    // PicMain := PicMainCopy, then the grid.
+    void present(int zoom);
+
+    // Composes back buffer, canvas and preview from the document's planes
+    // without touching the document.
+    void compose(const IconDocument& doc);
+    // The redraw every change of the planes ends with: compose, and the
+    // document is now modified.
+    void refreshFromPlanes(IconDocument& doc);
+    // Draws the floating selection planes over the canvas rectangle
+    // (left, top)-(right, bottom) (canvas pixels) and over the preview at the
+    // matching icon pixels, then the grid. The back buffer is left alone.
+    void drawFloating(const IconDocument& doc, int left, int top, int right, int bottom);
+    // refreshFromPlanes, the floating selection over it, and its marquee.
+    void refreshWithFloating(IconDocument& doc, int left, int top, int right, int bottom);
+    // The selection marquee: an inverting box 3 pixels wide on PicMain.
+    // Drawing it twice removes it.
+    void drawSelectionRect(int left, int top, int right, int bottom);
+
+    // The pixel-level update of the freehand tools: the interior of the cell
+    // whose corner is (cornerX, cornerY) on canvas and back buffer, in colour,
+    // or as a transparent cell when colour is empty.
+    void paintCell(int zoom, int cornerX, int cornerY, std::optional<Colour> colour);
+
+    Plane PicMain;
+    Plane PicMainCopy;
+    Plane PicIcon;
+    int previewLeft = 0;
+    int previewTop = 0;
+};

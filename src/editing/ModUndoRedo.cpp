@@ -1,0 +1,50 @@
+#include "editing/ModUndoRedo.h"
+
+#include "document/IconDocument.h"
+#include "platform/Raster.h"
+
+void ModUndoRedo::Reset() {
+    UndoStack.clear();
+    RedoStack.clear();
+    UndoCounter = 0;
+}
+
+void ModUndoRedo::Push(IconDocument& doc) {
+    const int n = doc.size;
+    doc.PicCol.reset(2 * n, n, kWhite);
+    bitBlt(doc.PicCol, 0, 0, n, n, doc.PicMask, 0, 0, RasterOp::Copy);
+    bitBlt(doc.PicCol, n, 0, n, n, doc.PicImage, 0, 0, RasterOp::Copy);
+    ++UndoCounter;
+    UndoStack.push_back({QString::number(UndoCounter), doc.PicCol});
+}
+
+void ModUndoRedo::ClearRedo() { RedoStack.clear(); }
+
+// Undo and Redo skip what cannot be done (the keyboard shortcut works while
+// the menu item is greyed) instead of reporting it.
+bool ModUndoRedo::Undo(IconDocument& doc) {
+    if (UndoStack.empty())
+        return false;
+    RedoStack.push_back({QString(), std::move(UndoStack.back().snapshot)});
+    UndoStack.pop_back();
+    if (UndoStack.empty())
+        return false;
+    restore(doc, UndoStack.back().snapshot);
+    return true;
+}
+
+bool ModUndoRedo::Redo(IconDocument& doc) {
+    if (RedoStack.empty())
+        return false;
+    UndoStack.push_back({QString(), std::move(RedoStack.back().snapshot)});
+    RedoStack.pop_back();
+    restore(doc, UndoStack.back().snapshot);
+    return true;
+}
+
+void ModUndoRedo::restore(IconDocument& doc, const Plane& snapshot) {
+    const int n = doc.size;
+    doc.PicCol = snapshot;
+    bitBlt(doc.PicMask, 0, 0, n, n, doc.PicCol, 0, 0, RasterOp::Copy);
+    bitBlt(doc.PicImage, 0, 0, n, n, doc.PicCol, n, 0, RasterOp::Copy);
+}

@@ -1,0 +1,21 @@
+#pragma once
+
+class Editor;
+
+// The File menu's Open, Save, Save As, Save As Bitmap and Save As Cursor.
+class FileCommands {
+public:
+    explicit FileCommands(Editor& editor) : editor_(editor) {}
+
+    // Save, or Save As for a document without a file; true when written.
+    bool save();
+    // "Save changes to ...?": Yes saves, No drops the changes, Cancel answers
+    // false and the caller stops.
+    bool saveChangesPrompt();
+
+    // Set by every Save and Save As that ran to a result.
+    bool saveSucceeded = false;
+
+private:
+    Editor& editor_;
+};

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "app/Editor.h"
+#include "support/MemoryClipboard.h"
+#include "support/ScriptedDialogs.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+// An editor wired to scripted dialogs, an in-memory clipboard and a fixed
+// random sequence, started as the program starts: a new 32 x 32 icon.
+class EditorFixture : public ::testing::Test {
+protected:
+    EditorFixture();
+
+    // A fresh editor of the given size index (0, 1, 2).
+    void startWithSize(int sizeIndex);
+
+    // Mouse on the canvas, in canvas pixels; button 1 left, 2 right.
+    void press(int button, int x, int y);
+    void move(int button, int x, int y);
+    void release(int button, int x, int y);
+    // Press at the first point, move through the rest, release at the last.
+    void drag(int button, std::initializer_list<std::pair<int, int>> points);
+
+    // The document pixel as (colour, mask).
+    std::pair<Colour, Colour> pixelAt(int x, int y) const;
+
+    ScriptedDialogs dialogs;
+    MemoryClipboard clipboard;
+    std::unique_ptr<Editor> editor;
+};
+
+// Canvas colours of a cell interior and the like, for readable failures.
+std::string hex(Colour c);

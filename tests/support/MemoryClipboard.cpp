@@ -1,0 +1,6 @@
+#include "support/MemoryClipboard.h"
+
+void MemoryClipboard::setImage(const Plane& p) {
+    picture = p;
+    ++writes;
+}

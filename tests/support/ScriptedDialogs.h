@@ -1,0 +1,40 @@
+#pragma once
+
+#include "platform/UserDialogs.h"
+
+#include <deque>
+#include <vector>
+
+// Answers the editor's questions from a script and records every one asked.
+// A question with no scripted answer cancels, so a test never hangs on one.
+class ScriptedDialogs : public UserDialogs {
+public:
+    struct Message {
+        QString title;
+        QString text;
+        MessageIcon icon;
+    };
+
+    void showMessage(const QString& title, const QString& text, MessageIcon icon) override;
+    PromptAnswer askYesNoCancel(const QString& title, const QString& text) override;
+    std::optional<FileChoice> chooseFile(FileDialogMode mode, const QString& startFolder) override;
+    int chooseIconLine(const QStringList& lines) override;
+    int choosePasteOption() override;
+    std::optional<HotSpot> chooseHotSpot(const Plane& canvas, int zoom, int maxIndex) override;
+
+    // Scripted answers, used first to last.
+    std::deque<PromptAnswer> prompts;
+    std::deque<std::optional<FileChoice>> files;
+    std::deque<int> iconLines;
+    std::deque<int> pasteOptions;
+    std::deque<std::optional<HotSpot>> hotSpots;
+
+    // What was asked.
+    std::vector<Message> messages;
+    std::vector<QString> promptTexts;
+    std::vector<FileDialogMode> fileModes;
+    std::vector<QString> fileStartFolders;
+    std::vector<QStringList> iconListings;
+    int pasteDialogs = 0;
+    int hotSpotDialogs = 0;
+};
