@@ -95,3 +95,17 @@ void Editor::commitSelection() {
 }
 
 bool Editor::offerToSave() { return files.saveChangesPrompt(); }
+
+void Editor::commandLineOpen(const QString&) {}
+void Editor::dropFiles(const QStringList&) {}
+void Editor::recentClick(int) {}
+bool Editor::editActionEnabled(int index) const {
+    switch (index) {
+    case 0:
+        return undoRedo.canUndo();
+    case 1:
+        return undoRedo.canRedo();
+    default:
+        return true;
+    }
+}

@@ -6,7 +6,9 @@
 #include "platform/Services.h"
 #include "editing/Selection.h"
 #include "fileio/FileCommands.h"
+#include "settings/ModRecent.h"
 #include "tools/ButtonColours.h"
+#include "tools/ColourPickers.h"
 #include "tools/DrawingTools.h"
 
 #include <QString>
@@ -39,6 +41,15 @@ public:
     void undo();
     void redo();
 
+    // The path handed in at start: checked, then opened.
+    void commandLineOpen(const QString& commandLine);
+    // Files dropped on the window: the first one is opened.
+    void dropFiles(const QStringList& paths);
+    // A click on MnuRecent(index), 1..4.
+    void recentClick(int index);
+    // Whether the Edit menu's items are enabled, by MnuEditAction index.
+    bool editActionEnabled(int index) const;
+
     // Commits a marked or floating selection, if there is one.
     void commitSelection();
     // Runs the save-changes prompt when the document is modified; false on
@@ -50,9 +61,11 @@ public:
     Canvas canvas;
     ModUndoRedo undoRedo;
     ButtonColours colours;
+    ColourPickers pickers;
     DrawingTools tools;
     Selection selection;
     FileCommands files;
+    ModRecent recent;
 
     QString windowTitle = QStringLiteral("Brevik - Untitled");
     // The two read-out lines beside ImgXY and ImgToXY.

@@ -2,7 +2,12 @@
 
 #include "app/Editor.h"
 
+void FileCommands::open() {}
+bool FileCommands::openPath(const QString&, const QString&) { return false; }
 bool FileCommands::save() { return saveSucceeded; }
+void FileCommands::saveAs() {}
+void FileCommands::saveAsBitmap() {}
+void FileCommands::saveAsCursor() {}
 
 bool FileCommands::saveChangesPrompt() {
     IconDocument& doc = editor_.doc;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "tools/SelectTool.h"
+
 class Editor;
 
 // The tool buttons OptTool 0..11 and what the mouse does on the canvas with
@@ -22,7 +24,7 @@ public:
         ToolCount
     };
 
-    explicit DrawingTools(Editor& editor) : editor_(editor) {}
+    explicit DrawingTools(Editor& editor) : select(editor), editor_(editor) {}
 
     // A click on OptTool(index).
     void chooseTool(int index);
@@ -39,6 +41,8 @@ public:
     int previousTool = Pencil;
     // Whose OptTool icon the canvas shows as its mouse pointer.
     int canvasCursorTool = Pencil;
+
+    SelectTool select;
 
 private:
     Editor& editor_;
