@@ -16,6 +16,8 @@ struct Services {
     // Uniform numbers in [0, 1) for the flood fill's marker search; seeded from
     // the clock unless a test sets a generator of its own.
     std::function<double()> random;
+    // Shows or ends a busy pointer (the hourglass while a file is written).
+    std::function<void(bool)> setBusy;
 
     void letEventsRun() const {
         if (processEvents)
