@@ -1,0 +1,149 @@
+#include "fileio/ModFileIO.h"
+
+#include "fileio/IconLayout.h"
+#include "fileio/IconReader.h"
+#include "fileio/IconWriter.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+
+namespace {
+
+// At most maxBytes of a regular file. Devices, pipes and directories are
+// refused before they are opened, so a read can neither block nor run on.
+std::optional<QByteArray> readAtMost(const QString& path, qint64 maxBytes, bool wholeFile,
+                                     ReadFault* fault) {
+    const auto fail = [fault](ReadFault f) -> std::optional<QByteArray> {
+        if (fault)
+            *fault = f;
+        return std::nullopt;
+    };
+    if (path.isEmpty() || !QFileInfo(path).isFile())
+        return fail(ReadFault::Unreadable);
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return fail(ReadFault::Unreadable);
+    if (wholeFile && file.size() > maxBytes)
+        return fail(ReadFault::TooLarge);
+    QByteArray bytes = file.read(maxBytes);
+    if (file.error() != QFileDevice::NoError)
+        return fail(ReadFault::Unreadable);
+    if (fault)
+        *fault = ReadFault::None;
+    return bytes;
+}
+
+// Enough for the directory header and the first entry.
+constexpr qint64 kHeadBytes = IconLayout::kHeaderBytes + IconLayout::kEntryBytes;
+
+IconLoadResult unreadable(ReadFault fault) {
+    IconLoadResult result;
+    result.fault = fault;
+    return result;
+}
+
+} // namespace
+
+qint64 ModFileIO::maxFileBytes() {
+    return IconLayout::kMaxFileBytes;
+}
+
+std::optional<QByteArray> ModFileIO::readFile(const QString& path, ReadFault* fault) {
+    return readAtMost(path, IconLayout::kMaxFileBytes, true, fault);
+}
+
+bool ModFileIO::isIconFile(const QString& path) {
+    const auto head = readAtMost(path, kHeadBytes, false, nullptr);
+    return head && IconReader::isIconFile(*head);
+}
+
+int ModFileIO::iconCount(const QString& path) {
+    const auto head = readAtMost(path, kHeadBytes, false, nullptr);
+    return head ? IconReader::iconCount(*head) : 0;
+}
+
+std::optional<std::vector<IconListLine>> ModFileIO::listIcons(const QString& path) {
+    const auto bytes = readFile(path);
+    return bytes ? IconReader::listIcons(*bytes) : std::nullopt;
+}
+
+IconLoadResult ModFileIO::loadSingleIcon(const QString& path) {
+    ReadFault fault = ReadFault::None;
+    const auto bytes = readFile(path, &fault);
+    return bytes ? IconReader::loadSingleIcon(*bytes) : unreadable(fault);
+}
+
+IconLoadResult ModFileIO::loadMultiIcon(const QString& path, const IconDescription& chosen) {
+    ReadFault fault = ReadFault::None;
+    const auto bytes = readFile(path, &fault);
+    return bytes ? IconReader::loadMultiIcon(*bytes, chosen) : unreadable(fault);
+}
+
+bool ModFileIO::saveFile(const QString& path, const QByteArray& bytes) {
+    if (path.isEmpty() || bytes.isEmpty())
+        return false;
+    QSaveFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit();
+}
+
+bool ModFileIO::writeIcon(const Plane& mask, const Plane& image, int colourCount,
+                          const QString& path) {
+    return saveFile(path, IconWriter::iconBytes(mask, image, colourCount));
+}
+
+bool ModFileIO::writeCursor(const Plane& mask, const Plane& image, int colourCount, int hotSpotX,
+                            int hotSpotY, const QString& path) {
+    return saveFile(path, IconWriter::cursorBytes(mask, image, colourCount, hotSpotX, hotSpotY));
+}
+
+bool ModFileIO::writeBitmap(const Plane& picture, int colourCount, const QString& path) {
+    return saveFile(path, IconWriter::bitmapBytes(picture, colourCount));
+}
+
+bool ModFileIO::rewriteMultiIcon(const Plane& mask, const Plane& image, int colourCount,
+                                 const IconDescription& chosen, const QString& sourcePath,
+                                 const QString& destinationPath) {
+    // A save in place would go through a temporary file whose path was never
+    // set, so it has always failed and still does, on purpose, leaving the
+    // source as it was; Save As to another path works.
+    if (destinationPath.isEmpty())
+        return false;
+    // The source is read whole before the destination is touched, so saving
+    // over the source itself also works.
+    const auto source = readFile(sourcePath);
+    if (!source)
+        return false;
+    const auto bytes = IconWriter::multiIconBytes(mask, image, colourCount, *source, chosen);
+    return bytes && saveFile(destinationPath, *bytes);
+}
+
+QString ModFileIO::errorTitle() {
+    return QStringLiteral("Sollent - Error");
+}
+
+QString ModFileIO::dimensionMessage(int width, int height) {
+    return QStringLiteral("Icon has dimensions which are incompatible with Sollent.\r\n\r\n") +
+           QString::number(width) + QStringLiteral(" x ") + QString::number(height) +
+           QStringLiteral(" pixels.");
+}
+
+QString ModFileIO::singleLoadErrorMessage() {
+    return QStringLiteral("An unexpected error occurred while loading the icon.");
+}
+
+QString ModFileIO::multiLoadErrorMessage() {
+    return QStringLiteral("An unexpected error occurred while loading the icon resource.");
+}
+
+QString ModFileIO::loadMessage(const IconLoadResult& result, bool multi) {
+    switch (result.status) {
+    case LoadStatus::Ok:
+        return {};
+    case LoadStatus::BadDimensions:
+        return dimensionMessage(result.width, result.height);
+    case LoadStatus::Failed:
+        break;
+    }
+    return multi ? multiLoadErrorMessage() : singleLoadErrorMessage();
+}

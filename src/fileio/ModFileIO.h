@@ -1,0 +1,46 @@
+#pragma once
+
+#include "fileio/IconFileTypes.h"
+
+#include <QByteArray>
+#include <QString>
+#include <optional>
+#include <vector>
+
+// The icon reader and the writers on files. Nothing here shows a message: the
+// caller shows the texts below, titled errorTitle().
+class ModFileIO {
+  public:
+    // Larger files are refused unread (see IconLayout::kMaxFileBytes).
+    static qint64 maxFileBytes();
+
+    static bool isIconFile(const QString& path);
+    static int iconCount(const QString& path);
+    static std::optional<std::vector<IconListLine>> listIcons(const QString& path);
+    static IconLoadResult loadSingleIcon(const QString& path);
+    static IconLoadResult loadMultiIcon(const QString& path, const IconDescription& chosen);
+
+    // Each write builds the whole file in memory and replaces the destination
+    // only when every byte is on disk, so a failed write keeps the old file.
+    static bool writeIcon(const Plane& mask, const Plane& image, int colourCount,
+                          const QString& path);
+    static bool writeCursor(const Plane& mask, const Plane& image, int colourCount, int hotSpotX,
+                            int hotSpotY, const QString& path);
+    static bool writeBitmap(const Plane& picture, int colourCount, const QString& path);
+    // An empty destination is a save in place, which always fails.
+    static bool rewriteMultiIcon(const Plane& mask, const Plane& image, int colourCount,
+                                 const IconDescription& chosen, const QString& sourcePath,
+                                 const QString& destinationPath);
+
+    // The file's bytes, or nullopt when it cannot be read or is too large.
+    static std::optional<QByteArray> readFile(const QString& path, ReadFault* fault = nullptr);
+    static bool saveFile(const QString& path, const QByteArray& bytes);
+
+    static QString errorTitle();
+    // "... incompatible with Sollent.\r\n\r\n32 x 16 pixels."
+    static QString dimensionMessage(int width, int height);
+    static QString singleLoadErrorMessage();
+    static QString multiLoadErrorMessage();
+    // The message for a failed load of either kind (Ok gives an empty text).
+    static QString loadMessage(const IconLoadResult& result, bool multi);
+};
