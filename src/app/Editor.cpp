@@ -69,8 +69,29 @@ void Editor::editAction(int index) {
     case 1:
         redo();
         break;
+    // Cut, Copy and Delete can be reached through their shortcuts while
+    // greyed; without a selection they have nothing to work on.
+    case 3:
+        if (selection.exists())
+            selection.Cut();
+        break;
+    case 4:
+        if (selection.exists())
+            selection.Copy();
+        break;
+    case 7:
+        if (selection.exists())
+            selection.Delete(selection.SelMarked);
+        break;
+    case 5:
+    case 6:
+        selection.Paste(index == 6);
+        break;
     case 9:
         commitSelection();
+        break;
+    case 10:
+        selection.SelectAll();
         break;
     default:
         break;
@@ -105,6 +126,14 @@ bool Editor::editActionEnabled(int index) const {
         return undoRedo.canUndo();
     case 1:
         return undoRedo.canRedo();
+    case 3:
+    case 4:
+    case 7:
+    case 9:
+        return selection.exists();
+    case 5:
+    case 6:
+        return services.clipboard && services.clipboard->hasImage();
     default:
         return true;
     }

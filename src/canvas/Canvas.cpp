@@ -52,6 +52,11 @@ void Canvas::compose(const IconDocument& doc) {
     stretchBlt(PicMainCopy, 0, 0, kCanvasSize, kCanvasSize, doc.PicImage, 0, 0, n, n,
                RasterOp::Xor);
     present(doc.zoom);
+    composePreview(doc);
+}
+
+void Canvas::composePreview(const IconDocument& doc) {
+    const int n = doc.size;
     PicIcon.fill(kButtonFace);
     bitBlt(PicIcon, 0, 0, n, n, doc.PicMask, 0, 0, RasterOp::And);
     bitBlt(PicIcon, 0, 0, n, n, doc.PicImage, 0, 0, RasterOp::Xor);

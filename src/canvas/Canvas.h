@@ -35,6 +35,9 @@ public:
     // Composes back buffer, canvas and preview from the document's planes
     // without touching the document.
     void compose(const IconDocument& doc);
+    // The preview alone, from the planes: a dragged selection is shown over
+    // it without leaving a trail.
+    void composePreview(const IconDocument& doc);
     // The redraw every change of the planes ends with: compose, and the
     // document is now modified.
     void refreshFromPlanes(IconDocument& doc);

@@ -1,11 +1,167 @@
 #include "editing/Selection.h"
 
 #include "app/Editor.h"
+#include "editing/PasteFit.h"
+#include "platform/Raster.h"
 
-void Selection::CommitSelection() {
+void Selection::LiftSelection() {
+    IconDocument& doc = editor_.doc;
+    const int zoom = doc.zoom;
+    const int w = (SelRect.Right - SelRect.Left) / zoom;
+    const int h = (SelRect.Bottom - SelRect.Top) / zoom;
+    const int x = SelRect.Left / zoom, y = SelRect.Top / zoom;
+    doc.PicSelImage.reset(w, h, kBlack);
+    bitBlt(doc.PicSelImage, 0, 0, w, h, doc.PicImage, x, y, RasterOp::Copy);
+    doc.PicSelMask.reset(w, h, kWhite);
+    bitBlt(doc.PicSelMask, 0, 0, w, h, doc.PicMask, x, y, RasterOp::Copy);
+}
+
+void Selection::BeginMove() {
+    IconDocument& doc = editor_.doc;
+    const int zoom = doc.zoom;
+    doc.clearToTransparent(SelRect.Left / zoom, SelRect.Top / zoom, SelRect.Right / zoom - 1,
+                           SelRect.Bottom / zoom - 1);
+    // The refresh repaints the preview too, so it shows the cleared area.
+    editor_.refresh();
+    SelMarked = false;
+    SelFloating = true;
+}
+
+void Selection::EndSelectionMark() {
+    drawMarquee();
     SelUnchanged = SelMarked;
     SelMarked = false;
     SelFloating = false;
+}
+
+void Selection::CommitSelection() {
+    EndSelectionMark();
+    IconDocument& doc = editor_.doc;
+    const int zoom = doc.zoom;
+    const int x = SelRect.Left / zoom, y = SelRect.Top / zoom;
+    const int w = doc.PicSelMask.width(), h = doc.PicSelMask.height();
+    bitBlt(doc.PicImage, x, y, w, h, doc.PicSelMask, 0, 0, RasterOp::And);
+    bitBlt(doc.PicImage, x, y, w, h, doc.PicSelImage, 0, 0, RasterOp::Xor);
+    bitBlt(doc.PicMask, x, y, w, h, doc.PicSelMask, 0, 0, RasterOp::And);
+    // A redraw, not a change: a selection that was only marked leaves the
+    // document as unmodified as it was.
+    editor_.canvas.compose(doc);
     SelRect = Rect{};
+    if (!SelUnchanged)
+        editor_.recordEdit();
     SelUnchanged = false;
+}
+
+void Selection::SelectAll() {
+    editor_.commitSelection();
+    editor_.tools.chooseTool(DrawingTools::Select);
+    SelRect = Rect{0, 0, Canvas::kCanvasSize, Canvas::kCanvasSize};
+    drawMarquee();
+    LiftSelection();
+    SelMarked = true;
+}
+
+void Selection::Delete(bool marked) {
+    EndSelectionMark();
+    IconDocument& doc = editor_.doc;
+    const int zoom = doc.zoom;
+    if (marked)
+        doc.clearToTransparent(SelRect.Left / zoom, SelRect.Top / zoom, SelRect.Right / zoom - 1,
+                               SelRect.Bottom / zoom - 1);
+    // Redrawn from the planes in both cases: dropped floating contents must
+    // not stay on the canvas.
+    editor_.refresh();
+    SelRect = Rect{};
+    editor_.recordEdit();
+    doc.modified = true;
+}
+
+void Selection::Cut() {
+    // Intended order: Delete leaves the selection planes as they are, so Copy
+    // still finds the cut contents there.
+    Delete(SelMarked);
+    Copy();
+}
+
+void Selection::Copy() {
+    const IconDocument& doc = editor_.doc;
+    const int w = doc.PicSelMask.width(), h = doc.PicSelMask.height();
+    // Over the white background transparent pixels come out white.
+    PicClip.reset(w, h, kWhite);
+    bitBlt(PicClip, 0, 0, w, h, doc.PicSelMask, 0, 0, RasterOp::And);
+    bitBlt(PicClip, 0, 0, w, h, doc.PicSelImage, 0, 0, RasterOp::Xor);
+    if (editor_.services.clipboard)
+        editor_.services.clipboard->setImage(PicClip);
+}
+
+void Selection::Paste(bool opaque) {
+    PicClip = Plane();
+    if (editor_.services.clipboard)
+        PicClip = editor_.services.clipboard->image();
+    // Reached through the shortcut while the menu item is greyed: there is
+    // nothing to paste, and the document and selection stay as they are.
+    if (PicClip.isEmpty())
+        return;
+    const int cw = PicClip.width(), ch = PicClip.height();
+    const int iw = editor_.canvas.PicIcon.width(), ih = editor_.canvas.PicIcon.height();
+    if (cw > iw || ch > ih) {
+        PasteChoice = editor_.services.dialogs ? editor_.services.dialogs->choosePasteOption() : -1;
+        editor_.services.letEventsRun();
+        if (PasteChoice != 0 && PasteChoice != 1)
+            return;
+        editor_.commitSelection();
+        const PasteFit size =
+            PasteChoice == 0 ? PasteFit{iw, ih} : PasteFit::keepingAspect(cw, ch, iw, ih);
+        PrepareFloating(size.width, size.height, true, opaque);
+    } else {
+        editor_.commitSelection();
+        PrepareFloating(cw, ch, false, opaque);
+    }
+    PlaceFloating();
+    editor_.doc.modified = true;
+}
+
+void Selection::PrepareFloating(int width, int height, bool stretch, bool opaque) {
+    IconDocument& doc = editor_.doc;
+    // The clipboard picture at the selection's size, as every step below
+    // samples it.
+    Plane source(width, height, kWhite);
+    if (stretch)
+        stretchBlt(source, 0, 0, width, height, PicClip, 0, 0, PicClip.width(), PicClip.height(),
+                   RasterOp::Copy);
+    else
+        bitBlt(source, 0, 0, width, height, PicClip, 0, 0, RasterOp::Copy);
+
+    doc.PicSelMask.reset(width, height, kWhite);
+    if (opaque) {
+        doc.PicSelMask.fill(kBlack);
+    } else {
+        // The monochrome conversion: only PicClip's background colour, pure
+        // white, becomes transparent.
+        for (int y = 0; y < height; ++y)
+            for (int x = 0; x < width; ++x)
+                doc.PicSelMask.setPixel(x, y, source.pixel(x, y) == kWhite ? kWhite : kBlack);
+    }
+    doc.PicSelImage = doc.PicSelMask;
+    bitBlt(doc.PicSelImage, 0, 0, width, height, source, 0, 0, RasterOp::And);
+    bitBlt(doc.PicSelImage, 0, 0, width, height, source, 0, 0, RasterOp::Xor);
+}
+
+void Selection::PlaceFloating() {
+    const IconDocument& doc = editor_.doc;
+    SelRect = Rect{0, 0, doc.zoom * doc.PicSelMask.width(), doc.zoom * doc.PicSelMask.height()};
+    editor_.canvas.drawFloating(doc, SelRect.Left, SelRect.Top, SelRect.Right, SelRect.Bottom);
+    drawMarquee();
+    // Floating only after the tool choice, whose commit must find nothing.
+    editor_.tools.chooseTool(DrawingTools::Select);
+    SelFloating = true;
+}
+
+void Selection::drawMarquee() {
+    editor_.canvas.drawSelectionRect(SelRect.Left, SelRect.Top, SelRect.Right, SelRect.Bottom);
+}
+
+void Selection::redrawFloating() {
+    editor_.canvas.refreshWithFloating(editor_.doc, SelRect.Left, SelRect.Top, SelRect.Right,
+                                       SelRect.Bottom);
 }

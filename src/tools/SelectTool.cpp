@@ -1,7 +1,105 @@
 #include "tools/SelectTool.h"
 
 #include "app/Editor.h"
+#include "canvas/Coordinates.h"
+#include "platform/Raster.h"
 
-void SelectTool::mouseDown(int, int) {}
-void SelectTool::mouseMove(int, int) {}
-void SelectTool::mouseUp(int, int) {}
+#include <cstdlib>
+#include <utility>
+
+void SelectTool::mouseDown(int x, int y) {
+    Selection& sel = editor_.selection;
+    const int zoom = editor_.doc.zoom;
+    x = Coordinates::cellCorner(x, zoom);
+    y = Coordinates::cellCorner(y, zoom);
+    const Selection::Rect& r = sel.SelRect;
+    const bool inside = x >= r.Left && x <= r.Right && y >= r.Top && y <= r.Bottom;
+    if (sel.exists() && inside) {
+        if (sel.SelMarked)
+            sel.BeginMove();
+        dragging = true;
+        offsetLeft_ = x - r.Left;
+        offsetRight_ = r.Right - x;
+        offsetTop_ = y - r.Top;
+        offsetBottom_ = r.Bottom - y;
+        dragTo(x, y);
+        return;
+    }
+    editor_.commitSelection();
+    marking = true;
+    sel.SelRect = Selection::Rect{x, y, x, y};
+    sel.drawMarquee();
+}
+
+void SelectTool::mouseMove(int x, int y) {
+    if (!dragging && !marking)
+        return;
+    const int zoom = editor_.doc.zoom;
+    // The pointer stays on the canvas while the button is down.
+    x = Coordinates::clampToCanvas(Coordinates::cellCorner(x, zoom));
+    y = Coordinates::clampToCanvas(Coordinates::cellCorner(y, zoom));
+    if (dragging)
+        dragTo(x, y);
+    else
+        markTo(x, y);
+}
+
+void SelectTool::mouseUp(int, int) {
+    Selection& sel = editor_.selection;
+    if (dragging) {
+        // Each move restored the canvas without the marquee, so this draws
+        // it around the selection's new place.
+        sel.drawMarquee();
+        dragging = false;
+        editor_.doc.modified = true;
+    } else if (marking) {
+        finishMarking();
+    }
+}
+
+void SelectTool::dragTo(int x, int y) {
+    Selection& sel = editor_.selection;
+    IconDocument& doc = editor_.doc;
+    Canvas& canvas = editor_.canvas;
+    Selection::Rect& r = sel.SelRect;
+    r = Selection::Rect{x - offsetLeft_, y - offsetTop_, x + offsetRight_, y + offsetBottom_};
+    const int zoom = doc.zoom;
+    editor_.readoutToXY = Coordinates::pointText(r.Left / zoom, r.Top / zoom);
+    bitBlt(canvas.PicMain, 0, 0, Canvas::kCanvasSize, Canvas::kCanvasSize, canvas.PicMainCopy, 0, 0,
+           RasterOp::Copy);
+    // The preview, too, starts again from the planes so the selection leaves
+    // no trail where it was.
+    canvas.composePreview(doc);
+    canvas.drawFloating(doc, r.Left, r.Top, r.Right, r.Bottom);
+}
+
+void SelectTool::markTo(int x, int y) {
+    Selection& sel = editor_.selection;
+    sel.drawMarquee();
+    sel.SelRect.Right = x;
+    sel.SelRect.Bottom = y;
+    sel.drawMarquee();
+    const int zoom = editor_.doc.zoom;
+    editor_.readoutToXY = Coordinates::sizeText(std::abs(x - sel.SelRect.Left) / zoom,
+                                                std::abs(y - sel.SelRect.Top) / zoom);
+}
+
+void SelectTool::finishMarking() {
+    Selection& sel = editor_.selection;
+    Selection::Rect& r = sel.SelRect;
+    marking = false;
+    sel.drawMarquee();
+    if (r.Left > r.Right)
+        std::swap(r.Left, r.Right);
+    if (r.Top > r.Bottom)
+        std::swap(r.Top, r.Bottom);
+    editor_.readoutToXY.clear();
+    if (r.Right == r.Left || r.Bottom == r.Top) {
+        // A rectangle with no area is no selection.
+        r = Selection::Rect{};
+        return;
+    }
+    sel.LiftSelection();
+    sel.drawMarquee();
+    sel.SelMarked = true;
+}
