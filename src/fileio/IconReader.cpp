@@ -7,6 +7,9 @@ using namespace IconLayout;
 
 namespace {
 
+// The header versions up to BITMAPV5HEADER; others are not bitmaps.
+constexpr qint32 kLargestInfoHeader = 124;
+
 bool editableSize(int width, int height) {
     return width == height && (width == 16 || width == 32 || width == 48);
 }
@@ -124,6 +127,7 @@ IconLoadResult IconReader::loadSingleIcon(const QByteArray& bytes) {
     // loader reads: 32-bit images, the header's own size and a short table.
     const int depth = info->bitCount;
     if (info->compression != 0 || info->size < kInfoHeaderBytes ||
+        info->size > kLargestInfoHeader ||
         (depth != 1 && depth != 4 && depth != 8 && depth != 24 && depth != 32))
         return failure(ReadFault::Unsupported);
     int entries = tableEntries(depth);
