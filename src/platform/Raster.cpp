@@ -24,7 +24,9 @@ namespace {
 
 // Where each step of a span lands: origin + i for a positive extent,
 // origin - i for a negative one.
-int spanPosition(int origin, int extent, int i) { return extent < 0 ? origin - i : origin + i; }
+int spanPosition(int origin, int extent, int i) {
+    return extent < 0 ? origin - i : origin + i;
+}
 
 } // namespace
 
@@ -69,6 +71,10 @@ void fillRect(Plane& dst, int left, int top, int right, int bottom, Colour c) {
     top = std::max(top, 0);
     right = std::min(right, dst.width());
     bottom = std::min(bottom, dst.height());
+    // A rectangle that is empty, inside out or wholly off the plane paints
+    // nothing (and must not hand std::fill a reversed range).
+    if (left >= right)
+        return;
     for (int y = top; y < bottom; ++y)
         std::fill(dst.row(y) + left, dst.row(y) + right, c);
 }

@@ -9,7 +9,7 @@ namespace {
 
 // The pixels a figure covers, clipped to the plane, painted in one pass.
 class PixelSet {
-public:
+  public:
     explicit PixelSet(const Plane& plane)
         : width_(plane.width()), height_(plane.height()),
           marks_(static_cast<std::size_t>(width_) * height_, false) {}
@@ -17,6 +17,11 @@ public:
     void add(int x, int y) {
         if (x >= 0 && y >= 0 && x < width_ && y < height_)
             marks_[static_cast<std::size_t>(y) * width_ + x] = true;
+    }
+
+    bool has(int x, int y) const {
+        return x >= 0 && y >= 0 && x < width_ && y < height_ &&
+               marks_[static_cast<std::size_t>(y) * width_ + x];
     }
 
     // Adds a square of the pen's width centred on (x, y).
@@ -42,7 +47,7 @@ public:
         }
     }
 
-private:
+  private:
     int width_, height_;
     std::vector<bool> marks_;
 };
@@ -53,12 +58,17 @@ void drawLine(Plane& plane, int x1, int y1, int x2, int y2, const Pen& pen) {
     PixelSet set(plane);
     const int dx = std::abs(x2 - x1), dy = std::abs(y2 - y1);
     const int stepX = x1 < x2 ? 1 : -1, stepY = y1 < y2 ? 1 : -1;
+    // Where the true line passes exactly half-way between two pixels, GDI
+    // takes the upper (or left) one whichever way the line runs, so a line
+    // covers the same pixels drawn in either direction. Running towards
+    // smaller coordinates, that means stepping on a tie.
     int x = x1, y = y1;
     if (dx >= dy) {
+        const int bias = stepY < 0 ? 1 : 0;
         int error = 2 * dy - dx;
         for (int i = 0; i < dx; ++i) {
             set.addWide(x, y, pen.width);
-            if (error > 0) {
+            if (error + bias > 0) {
                 y += stepY;
                 error -= 2 * dx;
             }
@@ -66,10 +76,11 @@ void drawLine(Plane& plane, int x1, int y1, int x2, int y2, const Pen& pen) {
             x += stepX;
         }
     } else {
+        const int bias = stepX < 0 ? 1 : 0;
         int error = 2 * dx - dy;
         for (int i = 0; i < dy; ++i) {
             set.addWide(x, y, pen.width);
-            if (error > 0) {
+            if (error + bias > 0) {
                 x += stepX;
                 error -= 2 * dy;
             }
@@ -117,32 +128,68 @@ void drawEllipse(Plane& plane, int left, int top, int right, int bottom, const P
         std::swap(left, right);
     if (top > bottom)
         std::swap(top, bottom);
-    const long long w = right - left, h = bottom - top;
-    if (w <= 0 || h <= 0)
+    if (right - left <= 0 || bottom - top <= 0)
         return;
-    // Pixel (x, y) belongs to the ellipse when its centre lies inside the
-    // ellipse inscribed in the box; in units of half pixels that is
-    // (2x + 1 - w)^2 h^2 + (2y + 1 - h)^2 w^2 <= w^2 h^2, with x, y box-relative.
-    auto inside = [&](int x, int y) {
-        if (x < left || y < top || x >= right || y >= bottom)
-            return false;
-        const long long ex = 2LL * (x - left) + 1 - w, ey = 2LL * (y - top) + 1 - h;
-        return ex * ex * h * h + ey * ey * w * w <= w * w * h * h;
+    // The outline runs through the middle of the box's outer pixels, so the
+    // ellipse touches all four sides of [left, right) x [top, bottom) however
+    // flat it is. One quarter is traced with the midpoint error term (after
+    // Zingl's rasteriser) and mirrored into the other three.
+    const int x0 = left, x1 = right - 1, y0 = top, y1 = bottom - 1;
+    const long long a = x1 - x0, b = y1 - y0, oddB = b & 1;
+    const long long stepDx = 8 * b * b, stepDy = 8 * a * a;
+    long long dx = 4 * (1 - a) * b * b, dy = 4 * (oddB + 1) * a * a;
+    long long error = dx + dy + oddB * a * a;
+    int west = x0, east = x1;
+    int south = y0 + static_cast<int>((b + 1) / 2), north = south - static_cast<int>(oddB);
+
+    // Per row, the innermost outline pixel on each side: the fill lies between.
+    const int rows = bottom - top;
+    std::vector<int> innerWest(rows, left - 1), innerEast(rows, right);
+    PixelSet outline(plane);
+    auto plot = [&](int x, int y, bool westSide) {
+        if (y < top || y >= bottom)
+            return;
+        outline.addWide(x, y, pen.width);
+        int& inner = westSide ? innerWest[y - top] : innerEast[y - top];
+        inner = westSide ? std::max(inner, x) : std::min(inner, x);
     };
-    PixelSet outline(plane), interior(plane);
-    for (int y = top; y < bottom; ++y) {
-        for (int x = left; x < right; ++x) {
-            if (!inside(x, y))
-                continue;
-            const bool edge =
-                !inside(x - 1, y) || !inside(x + 1, y) || !inside(x, y - 1) || !inside(x, y + 1);
-            if (edge)
-                outline.addWide(x, y, pen.width);
-            else
-                interior.add(x, y);
+    do {
+        plot(east, south, false);
+        plot(west, south, true);
+        plot(west, north, true);
+        plot(east, north, false);
+        const long long e2 = 2 * error;
+        if (e2 <= dy) {
+            ++south;
+            --north;
+            dy += stepDy;
+            error += dy;
         }
+        if (e2 >= dx || 2 * error > dy) {
+            ++west;
+            --east;
+            dx += stepDx;
+            error += dx;
+        }
+    } while (west <= east);
+    // A very narrow ellipse runs out of columns before it reaches its top and
+    // bottom rows: finish the tips straight up and down.
+    while (south - north <= b) {
+        plot(west - 1, south, true);
+        plot(east + 1, south, false);
+        plot(west - 1, north, true);
+        plot(east + 1, north, false);
+        ++south;
+        --north;
     }
-    if (fill)
-        interior.paint(plane, PenMode::Copy, *fill);
+
     outline.paint(plane, pen.mode, pen.colour);
+    if (!fill)
+        return;
+    PixelSet interior(plane);
+    for (int y = top; y < bottom; ++y)
+        for (int x = innerWest[y - top] + 1; x < innerEast[y - top]; ++x)
+            if (!outline.has(x, y))
+                interior.add(x, y);
+    interior.paint(plane, PenMode::Copy, *fill);
 }

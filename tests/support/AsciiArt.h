@@ -1,0 +1,64 @@
+#pragma once
+
+#include "platform/Plane.h"
+
+#include <initializer_list>
+#include <map>
+#include <string>
+
+// Pictures written as text in a test, one character a pixel, so a reader sees
+// the expected shape. Compared as text, a failure prints both pictures.
+namespace AsciiArt {
+
+using Palette = std::map<char, Colour>;
+
+// '#' black on '.' white: the figures of the drawing primitives.
+inline const Palette& inkOnPaper() {
+    static const Palette palette{{'#', kBlack}, {'.', kWhite}};
+    return palette;
+}
+
+inline Plane toPlane(std::initializer_list<const char*> rows, const Palette& palette) {
+    const int height = static_cast<int>(rows.size());
+    const int width = height == 0 ? 0 : static_cast<int>(std::string(*rows.begin()).size());
+    Plane plane(width, height);
+    int y = 0;
+    for (const char* row : rows) {
+        for (int x = 0; x < width; ++x)
+            plane.setPixel(x, y, palette.at(row[x]));
+        ++y;
+    }
+    return plane;
+}
+
+// The w x h block at (left, top) of plane; a colour missing from the palette
+// shows as '?'.
+inline std::string fromPlane(const Plane& plane, const Palette& palette, int left, int top,
+                             int width, int height) {
+    std::string text;
+    for (int y = top; y < top + height; ++y) {
+        text += '\n';
+        for (int x = left; x < left + width; ++x) {
+            char shown = '?';
+            for (const auto& [symbol, colour] : palette)
+                if (plane.pixel(x, y) == colour)
+                    shown = symbol;
+            text += shown;
+        }
+    }
+    return text;
+}
+
+inline std::string fromPlane(const Plane& plane, const Palette& palette) {
+    return fromPlane(plane, palette, 0, 0, plane.width(), plane.height());
+}
+
+// The rows as fromPlane prints them.
+inline std::string text(std::initializer_list<const char*> rows) {
+    std::string joined;
+    for (const char* row : rows)
+        joined += std::string("\n") + row;
+    return joined;
+}
+
+} // namespace AsciiArt
