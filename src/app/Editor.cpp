@@ -1,5 +1,8 @@
 #include "app/Editor.h"
 
+#include <QDir>
+#include <QFileInfo>
+
 #include <chrono>
 #include <random>
 
@@ -19,22 +22,40 @@ Editor::Editor(Services s)
         services.random = clockSeededRandom();
 }
 
-void Editor::startUp() { newIcon(1); }
+void Editor::startUp() {
+    loadSettings();
+    newIcon(1);
+}
 
 bool Editor::shutDown() {
     commitSelection();
     if (doc.modified && !offerToSave())
         return false;
     undoRedo.Reset();
+    saveSettings();
     return true;
+}
+
+void Editor::loadSettings() {
+    registry.LoadRecentFiles(recent);
+    recentFolder = registry.LoadRecentFolder();
+}
+
+void Editor::saveSettings() {
+    registry.SaveRecentFiles(recent);
+    // With no folder of its own yet the program started in the working
+    // directory, and that is where the dialogs would have opened.
+    registry.SaveRecentFolder(recentFolder.isEmpty() ? QDir::currentPath() : recentFolder);
 }
 
 void Editor::newIcon(int sizeIndex) {
     commitSelection();
     if (doc.modified && !offerToSave())
         return;
-    if (!doc.opening)
+    if (!doc.opening) {
         windowTitle = QStringLiteral("Brevik - Untitled");
+        files.multiImage = false;
+    }
     canvas.PicIcon.fill(kButtonFace);
     doc.filePath.clear();
     doc.fileTitle.clear();
@@ -117,9 +138,59 @@ void Editor::commitSelection() {
 
 bool Editor::offerToSave() { return files.saveChangesPrompt(); }
 
-void Editor::commandLineOpen(const QString&) {}
-void Editor::dropFiles(const QStringList&) {}
-void Editor::recentClick(int) {}
+void Editor::commandLineOpen(const QString& commandLine) {
+    if (commandLine.isEmpty())
+        return;
+    const auto error = [this](const QString& text) {
+        services.dialogs->showMessage(QStringLiteral("Brevik - Error"), text,
+                                      MessageIcon::Exclamation);
+    };
+    // Taken as it stands: quotes or blanks around the path make it a file
+    // that does not exist.
+    const QFileInfo file(commandLine);
+    if (!file.isFile() || !file.isReadable()) {
+        error(QStringLiteral("Failed to open file."));
+        return;
+    }
+    if (commandLine.right(4).toLower() != QStringLiteral(".ico")) {
+        error(QStringLiteral("Invalid file extension."));
+        return;
+    }
+    if (!files.openPath(commandLine, file.fileName()))
+        error(QStringLiteral("Failed to open file."));
+}
+
+void Editor::dropFiles(const QStringList& paths) {
+    commitSelection();
+    if (doc.modified && !offerToSave())
+        return;
+    if (!paths.isEmpty())
+        files.openPath(paths.first(), QFileInfo(paths.first()).fileName());
+}
+
+void Editor::recentClick(int index) {
+    if (index < 1 || index > ModRecent::kEntries)
+        return;
+    commitSelection();
+    if (doc.modified && !offerToSave())
+        return;
+    const QString path = recent.MnuRecent[index].tag;
+    if (path.isEmpty())
+        return;
+    if (QFileInfo(path).isFile()) {
+        if (!files.openPath(path, ModRecent::FileNameOf(path))) {
+            recent.MnuRecent[index].tag.clear();
+            recent.RemoveRecent(path);
+        }
+        return;
+    }
+    services.dialogs->showMessage(QStringLiteral("Brevik - Error"),
+                                  QStringLiteral("Unable to locate the file ") +
+                                      ModRecent::FileNameOf(path),
+                                  MessageIcon::Exclamation);
+    recent.RemoveRecent(path);
+}
+
 bool Editor::editActionEnabled(int index) const {
     switch (index) {
     case 0:

@@ -7,6 +7,7 @@
 #include "editing/Selection.h"
 #include "fileio/FileCommands.h"
 #include "settings/ModRecent.h"
+#include "settings/ModRegistry.h"
 #include "tools/ButtonColours.h"
 #include "tools/ColourPickers.h"
 #include "tools/DrawingTools.h"
@@ -25,6 +26,10 @@ public:
     void startUp();
     // Shutdown; false when the user cancelled the save-changes prompt.
     bool shutDown();
+    // The recent files and folder: taken from the store at start-up, written
+    // back at shutdown.
+    void loadSettings();
+    void saveSettings();
 
     // New icon of size index 0, 1, 2 (16, 32, 48). Does nothing when the
     // save-changes prompt is cancelled.
@@ -66,6 +71,10 @@ public:
     Selection selection;
     FileCommands files;
     ModRecent recent;
+    ModRegistry registry;
+    // Where the file dialogs open: the folder of the last file chosen in one,
+    // or the one stored from the last run. Empty lets the dialog choose.
+    QString recentFolder;
 
     QString windowTitle = QStringLiteral("Brevik - Untitled");
     // The two read-out lines beside ImgXY and ImgToXY.

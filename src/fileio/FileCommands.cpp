@@ -1,22 +1,247 @@
 #include "fileio/FileCommands.h"
 
 #include "app/Editor.h"
+#include "fileio/IconReader.h"
+#include "fileio/ModFileIO.h"
+#include "fileio/ModPalette.h"
+#include "platform/Raster.h"
 
-void FileCommands::open() {}
-bool FileCommands::openPath(const QString&, const QString&) { return false; }
-bool FileCommands::save() { return saveSucceeded; }
-void FileCommands::saveAs() {}
-void FileCommands::saveAsBitmap() {}
-void FileCommands::saveAsCursor() {}
+#include <QFileInfo>
+
+namespace {
+
+const QString kErrorTitle = QStringLiteral("Brevik - Error");
+
+// Runs its action when the scope ends, whichever way.
+class OnExit {
+  public:
+    explicit OnExit(std::function<void()> action) : action_(std::move(action)) {}
+    ~OnExit() {
+        if (action_)
+            action_();
+    }
+    OnExit(const OnExit&) = delete;
+    OnExit& operator=(const OnExit&) = delete;
+
+  private:
+    std::function<void()> action_;
+};
+
+} // namespace
+
+void FileCommands::open() {
+    runOpen(std::nullopt);
+}
+
+bool FileCommands::openPath(const QString& path, const QString& title) {
+    return runOpen(FileChoice{path, title});
+}
+
+bool FileCommands::runOpen(const std::optional<FileChoice>& handedIn) {
+    editor_.commitSelection();
+    if (editor_.doc.modified && !saveChangesPrompt())
+        return false;
+    if (disableCanvas)
+        disableCanvas();
+    const OnExit enableLater(startEnableTimer);
+
+    std::optional<FileChoice> file = handedIn ? handedIn : chooseFile(FileDialogMode::Open);
+    if (!file)
+        return false;
+    return loadIcons(*file);
+}
+
+bool FileCommands::loadIcons(const FileChoice& file) {
+    IconDocument& doc = editor_.doc;
+    if (!ModFileIO::isIconFile(file.path)) {
+        showError(file.title + QStringLiteral(" is not a valid icon file."));
+        return false;
+    }
+    const int count = ModFileIO::iconCount(file.path);
+    if (count == 0) {
+        showError(QStringLiteral("Unable to read data from ") + file.title);
+        return false;
+    }
+    if (count > 1) {
+        const auto lines = ModFileIO::listIcons(file.path);
+        if (!lines) {
+            showError(QStringLiteral("An error occurred while loading ") + file.title);
+            return false;
+        }
+        QStringList texts;
+        for (const IconListLine& line : *lines)
+            texts << line.text;
+        const int chosen = editor_.services.dialogs->chooseIconLine(texts);
+        IconDescription description;
+        if (chosen >= 0 && chosen < static_cast<int>(lines->size()))
+            description = IconReader::describeListLine(chosen, (*lines)[chosen]);
+        if (description.width == 0) {
+            // Intended: a cancelled choice still marks the document as having
+            // a file, so the caller takes the open as handled.
+            doc.hasFile = true;
+            return true;
+        }
+        const IconLoadResult loaded = ModFileIO::loadMultiIcon(file.path, description);
+        if (!loaded.ok()) {
+            editor_.services.dialogs->showMessage(ModFileIO::errorTitle(),
+                                                  ModFileIO::loadMessage(loaded, true),
+                                                  MessageIcon::Exclamation);
+            return false;
+        }
+        if (!install(loaded)) {
+            editor_.services.dialogs->showMessage(ModFileIO::errorTitle(),
+                                                  ModFileIO::multiLoadErrorMessage(),
+                                                  MessageIcon::Exclamation);
+            return false;
+        }
+        currentIcon = description;
+        multiImage = true;
+    } else {
+        const IconLoadResult loaded = ModFileIO::loadSingleIcon(file.path);
+        if (!loaded.ok()) {
+            editor_.services.dialogs->showMessage(ModFileIO::errorTitle(),
+                                                  ModFileIO::loadMessage(loaded, false),
+                                                  MessageIcon::Exclamation);
+            return false;
+        }
+        if (!install(loaded)) {
+            editor_.services.dialogs->showMessage(ModFileIO::errorTitle(),
+                                                  ModFileIO::singleLoadErrorMessage(),
+                                                  MessageIcon::Exclamation);
+            return false;
+        }
+    }
+
+    editor_.undoRedo.Reset();
+    editor_.undoRedo.Push(doc);
+    editor_.windowTitle = QStringLiteral("Brevik - ") + file.title;
+    doc.filePath = file.path;
+    doc.fileTitle = file.title;
+    editor_.recent.AddRecent(file.path);
+    doc.hasFile = true;
+    return true;
+}
+
+bool FileCommands::install(const IconLoadResult& loaded) {
+    IconDocument& doc = editor_.doc;
+    const int sizeIndex = IconDocument::indexForSize(loaded.width);
+    const auto fits = [&loaded](const Plane& plane) {
+        return plane.width() == loaded.width && plane.height() == loaded.width;
+    };
+    // The reader has checked all this; a loader that says otherwise must not
+    // leave a half-sized document behind.
+    if (sizeIndex < 0 || !fits(loaded.mask) || !fits(loaded.image))
+        return false;
+    // Open has already offered to save; whatever the answer, the old
+    // picture is being replaced and New must not ask again.
+    doc.modified = false;
+    doc.opening = true;
+    editor_.newIcon(sizeIndex);
+    doc.opening = false;
+    bitBlt(doc.PicMask, 0, 0, doc.size, doc.size, loaded.mask, 0, 0, RasterOp::Copy);
+    bitBlt(doc.PicImage, 0, 0, doc.size, doc.size, loaded.image, 0, 0, RasterOp::Copy);
+    // Composed, not refreshed: a freshly opened file is not modified.
+    editor_.canvas.compose(doc);
+    return true;
+}
+
+bool FileCommands::save() {
+    IconDocument& doc = editor_.doc;
+    if (doc.filePath.isEmpty()) {
+        saveAs();
+        return saveSucceeded;
+    }
+    editor_.commitSelection();
+    // Intended: a file opened as one image of several is saved in place
+    // through the rewrite with no destination, which always fails; Save As
+    // to another file is the way to keep such an edit.
+    setBusy(true);
+    const bool written = writeDocument(doc.filePath, QString());
+    setBusy(false);
+    if (!written) {
+        saveSucceeded = false;
+        showError(QStringLiteral("Unable to save the file ") + doc.fileTitle);
+        return false;
+    }
+    doc.modified = false;
+    saveSucceeded = true;
+    return true;
+}
+
+void FileCommands::saveAs() {
+    const std::optional<FileChoice> file = chooseFile(FileDialogMode::SaveAs);
+    if (!file)
+        return;
+    IconDocument& doc = editor_.doc;
+    editor_.commitSelection();
+    setBusy(true);
+    const bool written = writeDocument(doc.filePath, file->path);
+    setBusy(false);
+    if (!written) {
+        saveSucceeded = false;
+        showError(QStringLiteral("Unable to save the file ") + file->title);
+        return;
+    }
+    doc.filePath = file->path;
+    doc.fileTitle = file->title;
+    editor_.windowTitle = QStringLiteral("Brevik - ") + file->title;
+    editor_.recent.AddRecent(file->path);
+    saveSucceeded = true;
+    doc.modified = false;
+}
+
+bool FileCommands::writeDocument(const QString& source, const QString& destination) {
+    const IconDocument& doc = editor_.doc;
+    const int colours = ModPalette::countColours(doc.PicImage, true);
+    if (multiImage)
+        return ModFileIO::rewriteMultiIcon(doc.PicMask, doc.PicImage, colours, currentIcon, source,
+                                           destination);
+    return ModFileIO::writeIcon(doc.PicMask, doc.PicImage, colours,
+                                destination.isEmpty() ? source : destination);
+}
+
+void FileCommands::saveAsBitmap() {
+    const std::optional<FileChoice> file = chooseFile(FileDialogMode::SaveAsBitmap);
+    if (!file)
+        return;
+    editor_.commitSelection();
+    const IconDocument& doc = editor_.doc;
+    // The picture as it shows over a white background: transparent pixels
+    // become white, inverting ones white XOR their colour.
+    Plane PicClip(doc.size, doc.size, kWhite);
+    bitBlt(PicClip, 0, 0, doc.size, doc.size, doc.PicMask, 0, 0, RasterOp::And);
+    bitBlt(PicClip, 0, 0, doc.size, doc.size, doc.PicImage, 0, 0, RasterOp::Xor);
+    const int colours = ModPalette::countColours(PicClip, false);
+    if (!ModFileIO::writeBitmap(PicClip, colours, file->path))
+        showError(QStringLiteral("Failed to Save Icon As Bitmap."));
+}
+
+void FileCommands::saveAsCursor() {
+    const std::optional<HotSpot> hotSpot = editor_.services.dialogs->chooseHotSpot(
+        editor_.canvas.PicMain, editor_.doc.zoom, editor_.doc.maxIndex);
+    if (!hotSpot)
+        return;
+    const std::optional<FileChoice> file = chooseFile(FileDialogMode::SaveAsCursor);
+    if (!file)
+        return;
+    editor_.commitSelection();
+    const IconDocument& doc = editor_.doc;
+    const int colours = ModPalette::countColours(doc.PicImage, true);
+    if (!ModFileIO::writeCursor(doc.PicMask, doc.PicImage, colours, hotSpot->x, hotSpot->y,
+                                file->path))
+        showError(QStringLiteral("Failed to Save Icon As Cursor."));
+}
 
 bool FileCommands::saveChangesPrompt() {
     IconDocument& doc = editor_.doc;
     const QString name = doc.fileTitle.isEmpty() ? QStringLiteral("Untitled.ico") : doc.fileTitle;
     const PromptAnswer answer = editor_.services.dialogs->askYesNoCancel(
-        QStringLiteral("Brevik - Save Changes?"), QStringLiteral("Save changes to ") + name +
-                                                      QStringLiteral("?"));
+        QStringLiteral("Brevik - Save Changes?"),
+        QStringLiteral("Save changes to ") + name + QStringLiteral("?"));
     switch (answer) {
     case PromptAnswer::Yes:
+        // A Save As cancelled from here leaves saveSucceeded as it was, and
+        // that is the answer.
         save();
         return saveSucceeded;
     case PromptAnswer::No:
@@ -26,4 +251,21 @@ bool FileCommands::saveChangesPrompt() {
         break;
     }
     return false;
+}
+
+std::optional<FileChoice> FileCommands::chooseFile(FileDialogMode mode) {
+    std::optional<FileChoice> choice =
+        editor_.services.dialogs->chooseFile(mode, editor_.recentFolder);
+    if (choice)
+        editor_.recentFolder = QFileInfo(choice->path).absolutePath();
+    return choice;
+}
+
+void FileCommands::setBusy(bool busy) {
+    if (editor_.services.setBusy)
+        editor_.services.setBusy(busy);
+}
+
+void FileCommands::showError(const QString& text) {
+    editor_.services.dialogs->showMessage(kErrorTitle, text, MessageIcon::Exclamation);
 }

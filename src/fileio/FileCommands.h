@@ -1,19 +1,27 @@
 #pragma once
 
+#include "fileio/IconFileTypes.h"
+#include "platform/UserDialogs.h"
+
 #include <QString>
 #include <QStringList>
 
+#include <functional>
+#include <optional>
+
 class Editor;
 
-// The File menu's Open, Save, Save As, Save As Bitmap and Save As Cursor.
+// The File menu's Open, Save, Save As, Save As Bitmap and Save As Cursor,
+// the save-changes prompt and the file dialog they all open.
 class FileCommands {
-public:
+  public:
     explicit FileCommands(Editor& editor) : editor_(editor) {}
 
     // File > Open with its dialog.
     void open();
-    // Opens path without a dialog (command line, recent entry, dropped file);
-    // false when nothing was opened.
+    // Opens path without a dialog (command line, recent entry, dropped file).
+    // False when the document was left without a file; a cancelled choice
+    // in a multi-image file counts as handled.
     bool openPath(const QString& path, const QString& title);
     // Save, or Save As for a document without a file; true when written.
     bool save();
@@ -24,9 +32,36 @@ public:
     // false and the caller stops.
     bool saveChangesPrompt();
 
+    // The common file dialog, opened in the recent folder; a chosen file
+    // makes its folder the recent folder.
+    std::optional<FileChoice> chooseFile(FileDialogMode mode);
+
     // Set by every Save and Save As that ran to a result.
     bool saveSucceeded = false;
+    // Raised by loading from a multi-image file, lowered only by New: while
+    // raised, Save and Save As rewrite the whole file.
+    bool multiImage = false;
+    // The image chosen from the multi-image file last opened.
+    IconDescription currentIcon;
 
-private:
+    // Open keeps the canvas from taking the mouse release that ends a
+    // double-click in its dialog: disableCanvas runs before the dialog, and
+    // on every way out startEnableTimer asks for the canvas to be enabled
+    // again at the next timer tick (the shell's TmrEnable). Empty in tests.
+    std::function<void()> disableCanvas;
+    std::function<void()> startEnableTimer;
+
+  private:
+    bool runOpen(const std::optional<FileChoice>& handedIn);
+    bool loadIcons(const FileChoice& file);
+    // Gives the document the loaded image's size and planes; false, with the
+    // document untouched, when the image is not one the document can hold.
+    bool install(const IconLoadResult& loaded);
+    // The icon, or the whole multi-image file, to path; source is the file
+    // the other images come from.
+    bool writeDocument(const QString& source, const QString& destination);
+    void setBusy(bool busy);
+    void showError(const QString& text);
+
     Editor& editor_;
 };

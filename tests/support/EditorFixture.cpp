@@ -24,6 +24,7 @@ void EditorFixture::startWithSize(int sizeIndex) {
     services.clipboard = &clipboard;
     services.random = fixedRandom();
     editor = std::make_unique<Editor>(services);
+    editor->registry = ModRegistry(settingsDir.filePath(QStringLiteral("Sollent.ini")));
     editor->startUp();
     if (sizeIndex != 1)
         editor->newIcon(sizeIndex);

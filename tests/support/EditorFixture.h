@@ -4,6 +4,8 @@
 #include "support/MemoryClipboard.h"
 #include "support/ScriptedDialogs.h"
 
+#include <QTemporaryDir>
+
 #include <gtest/gtest.h>
 
 #include <memory>
@@ -28,6 +30,8 @@ protected:
     std::pair<Colour, Colour> pixelAt(int x, int y) const;
 
     ScriptedDialogs dialogs;
+    // The recent files and folder of these editors, never the user's own.
+    QTemporaryDir settingsDir;
     MemoryClipboard clipboard;
     std::unique_ptr<Editor> editor;
 };
