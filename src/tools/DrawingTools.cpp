@@ -1,8 +1,40 @@
 #include "tools/DrawingTools.h"
 
 #include "app/Editor.h"
+#include "canvas/Coordinates.h"
+
+#include <algorithm>
+
+namespace {
+
+using Figure = ShapeTool::Figure;
+using Inside = ShapeTool::Inside;
+
+// The canvas holds the pointer while a button is down, so coordinates may lie
+// anywhere on the screen. A figure reaching further than one canvas past the
+// edges would only be clipped, but would cost time in proportion to its size.
+constexpr int kReach = 384;
+int withinReach(int v) {
+    return std::clamp(v, -kReach, Canvas::kCanvasSize + kReach);
+}
+
+} // namespace
+
+DrawingTools::DrawingTools(Editor& editor)
+    : select(editor), editor_(editor), env_(editor), freehand_(env_), sample_(env_),
+      flood_(env_), shapes_{{ShapeTool(env_, Figure::Line, Inside::Hollow),
+                             ShapeTool(env_, Figure::Box, Inside::Hollow),
+                             ShapeTool(env_, Figure::Ellipse, Inside::Hollow),
+                             ShapeTool(env_, Figure::Box, Inside::Solid),
+                             ShapeTool(env_, Figure::Ellipse, Inside::Solid),
+                             ShapeTool(env_, Figure::Box, Inside::Filled),
+                             ShapeTool(env_, Figure::Ellipse, Inside::Filled)}} {}
 
 void DrawingTools::chooseTool(int index) {
+    if (index < 0 || index >= ToolCount)
+        return;
+    // Sample hands back to the tool before it; Select and Erase are never
+    // where it hands back to.
     if (currentTool != Select && currentTool != Erase && currentTool != Sample)
         previousTool = currentTool;
     currentTool = index;
@@ -15,8 +47,78 @@ void DrawingTools::resetToPencil() {
     currentTool = Pencil;
     previousTool = Pencil;
     canvasCursorTool = Pencil;
+    pressedButton_ = 0;
 }
 
-void DrawingTools::mouseDown(int, int, int) {}
-void DrawingTools::mouseMove(int, int, int) {}
-void DrawingTools::mouseUp(int, int, int) {}
+CanvasTool* DrawingTools::toolFor(int index) {
+    switch (index) {
+    case Pencil:
+    case Erase:
+        return &freehand_;
+    case Sample:
+        return &sample_;
+    case Flood:
+        return &flood_;
+    case Select:
+        return nullptr;
+    default:
+        return &shapes_[static_cast<std::size_t>(index - Line)];
+    }
+}
+
+void DrawingTools::showPointer(int x, int y) {
+    const int zoom = editor_.doc.zoom;
+    editor_.readoutXY =
+        Coordinates::pointText(Coordinates::iconPixel(x, zoom), Coordinates::iconPixel(y, zoom));
+}
+
+void DrawingTools::mouseDown(int button, int x, int y) {
+    // A second button pressed during a gesture does not start another one.
+    if ((button != 1 && button != 2) || drawing())
+        return;
+    x = withinReach(x);
+    y = withinReach(y);
+    const int tool = currentTool;
+    // Select and Sample leave the picture alone, so the redo history stays.
+    if (tool != Select && tool != Sample)
+        editor_.undoRedo.ClearRedo();
+    const int index = button - 1;
+    gesture_.buttonIndex = index;
+    gesture_.colour = DrawingColour::of(editor_.colours.value[index], tool == Erase);
+    gesture_.other = DrawingColour::of(editor_.colours.value[1 - index], false);
+    gesture_.startX = x;
+    gesture_.startY = y;
+    pressedButton_ = button;
+    activeTool_ = tool;
+    showPointer(x, y);
+    if (tool == Select)
+        select.mouseDown(x, y);
+    else
+        toolFor(tool)->begin(gesture_);
+}
+
+void DrawingTools::mouseMove(int button, int x, int y) {
+    x = withinReach(x);
+    y = withinReach(y);
+    showPointer(x, y);
+    if (button == 0 || !drawing())
+        return;
+    editor_.readoutToXY = editor_.readoutXY;
+    if (activeTool_ == Select)
+        select.mouseMove(x, y);
+    else
+        toolFor(activeTool_)->move(gesture_, x, y);
+}
+
+void DrawingTools::mouseUp(int button, int x, int y) {
+    if (!drawing() || button != pressedButton_)
+        return;
+    pressedButton_ = 0;
+    if (activeTool_ == Select) {
+        select.mouseUp(withinReach(x), withinReach(y));
+        return;
+    }
+    toolFor(activeTool_)->end(gesture_);
+    if (activeTool_ != Sample)
+        editor_.recordEdit();
+}

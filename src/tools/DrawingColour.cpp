@@ -1,0 +1,10 @@
+#include "tools/DrawingColour.h"
+
+#include "tools/ButtonColours.h"
+
+DrawingColour DrawingColour::of(std::int32_t buttonValue, bool erase) {
+    if (buttonValue == kTransparentColour || erase)
+        return {true, kWhite, kButtonFace, kWhite, kBlack};
+    const auto c = static_cast<Colour>(buttonValue);
+    return {false, c, c, kBlack, c};
+}

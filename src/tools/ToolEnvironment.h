@@ -1,0 +1,38 @@
+#pragma once
+
+#include "platform/Plane.h"
+
+class Canvas;
+class Editor;
+class IconDocument;
+struct ButtonColours;
+
+// All a drawing tool may reach of the editor: the document, the views, the
+// button colours and a few services. Keeping it narrow keeps the tools from
+// growing into menu commands.
+class ToolEnvironment {
+  public:
+    explicit ToolEnvironment(Editor& editor) : editor_(editor) {}
+
+    IconDocument& document() const;
+    Canvas& canvas() const;
+    ButtonColours& colours() const;
+    // The colour chart PicPal, where the flood fill draws its marker colours.
+    const Plane& colourChart() const;
+
+    // Uniform in [0, 1).
+    double random() const;
+    void letEventsRun() const;
+
+    // Recomposes canvas and preview from the planes; the document is now
+    // modified.
+    void refresh() const;
+    // Blanks the drag read-out beside ImgToXY.
+    void clearDragReadout() const;
+
+    int previousTool() const;
+    void chooseTool(int index) const;
+
+  private:
+    Editor& editor_;
+};

@@ -1,0 +1,158 @@
+#include "tools/ColourPickers.h"
+#include "canvas/Resources.h"
+#include "tools/ButtonColours.h"
+#include "tools/HlsColour.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+TEST(HlsColourTest, ConvertsHuesAndRoundsHalvesToEven) {
+    const struct {
+        double h, l, s;
+        Colour expected;
+    } cases[] = {
+        {0, 0.5, 1, rgb(255, 0, 0)},
+        {1, 0.5, 1, rgb(255, 255, 0)},
+        {2, 0.5, 1, rgb(0, 255, 0)},
+        {3, 0.5, 1, rgb(0, 255, 255)},
+        {4, 0.5, 1, rgb(0, 0, 255)},
+        {5, 0.5, 1, rgb(255, 0, 255)},
+        {0, 0, 1, rgb(0, 0, 0)},
+        {0, 1, 1, rgb(255, 255, 255)},
+        // 0.5 * 255 = 127.5 rounds to the even 128, not down to 127.
+        {0, 0.25, 1, rgb(128, 0, 0)},
+        {0.5, 0.5, 1, rgb(255, 128, 0)},
+        {2.5, 0.75, 1, rgb(128, 255, 191)},
+        {0, 0.3, 0, rgb(76, 76, 76)},
+        {4.5, 0.5, 0.5, rgb(128, 64, 191)},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(hlsToRgb(c.h, c.l, c.s), c.expected) << c.h << " " << c.l << " " << c.s;
+}
+
+TEST(ColourPickersTest, ChartHasBlackAndWhiteEdgesAndPureHuesInTheMiddle) {
+    const ColourPickers pickers;
+    const Plane& chart = pickers.PicPal;
+    ASSERT_EQ(chart.width(), 51);
+    ASSERT_EQ(chart.height(), 335);
+    for (int r = 0; r < 335; ++r) {
+        ASSERT_EQ(chart.pixel(0, r), kBlack) << r;
+        ASSERT_EQ(chart.pixel(50, r), kWhite) << r;
+    }
+    const struct {
+        int column, row;
+        Colour expected;
+    } points[] = {
+        {25, 0, rgb(255, 0, 0)},
+        {25, 334, rgb(255, 0, 255)}, // hue 5.0
+        {12, 0, rgb(122, 0, 0)},
+        {30, 100, rgb(154, 255, 51)},
+        // Lightness summed in single precision stays a hair below 0.1 here,
+        // so the blue half-step 25.5 is not reached: 25, where 0.1 exactly
+        // would round to 26.
+        {5, 167, rgb(0, 51, 25)},
+        {45, 167, rgb(204, 255, 229)},
+    };
+    for (const auto& p : points)
+        EXPECT_EQ(chart.pixel(p.column, p.row), p.expected) << p.column << ", " << p.row;
+}
+
+TEST(ColourPickersTest, GreyRampAndMiniPalette) {
+    const ColourPickers pickers;
+    const struct {
+        int column, grey;
+    } greys[] = {{0, 0}, {1, 3}, {45, 127}, {46, 129}, {90, 253}, {91, 255}};
+    for (const auto& g : greys)
+        for (int y : {0, 31})
+            EXPECT_EQ(pickers.PicGreyPal.pixel(g.column, y), rgb(g.grey, g.grey, g.grey))
+                << g.column << ", " << y;
+
+    const Colour standard[16] = {
+        rgb(0, 0, 0),       rgb(0, 0, 128),   rgb(0, 128, 0),   rgb(0, 128, 128),
+        rgb(128, 0, 0),     rgb(128, 0, 128), rgb(128, 128, 0), rgb(192, 192, 192),
+        rgb(128, 128, 128), rgb(0, 0, 255),   rgb(0, 255, 0),   rgb(0, 255, 255),
+        rgb(255, 0, 0),     rgb(255, 0, 255), rgb(255, 255, 0), rgb(255, 255, 255)};
+    for (int n = 0; n < 16; ++n) {
+        const int left = 24 * (n % 4), top = 13 * (n / 4);
+        SCOPED_TRACE(n);
+        for (auto [x, y] : {std::pair{left, top}, {left + 23, top + 12}, {left + 11, top + 6}})
+            EXPECT_EQ(pickers.PicMiniPal.pixel(x, y), standard[n]);
+    }
+}
+
+TEST(ColourPickersTest, EachButtonPicksOnlyItsOwnColour) {
+    ColourPickers pickers;
+    ButtonColours colours;
+    const auto value = [](Colour c) { return static_cast<std::int32_t>(c); };
+    using P = ColourPickers;
+    const struct {
+        const char* what;
+        P::Picker picker;
+        int button, x, y;
+        std::int32_t left, right;
+    } steps[] = {
+        {"chart, left", P::Chart, 1, 25, 0, value(rgb(255, 0, 0)), value(kWhite)},
+        {"grey, right", P::GreyRamp, 2, 45, 20, value(rgb(255, 0, 0)), value(rgb(127, 127, 127))},
+        {"mini, left", P::MiniPalette, 1, 30, 20, value(rgb(128, 0, 128)),
+         value(rgb(127, 127, 127))},
+        {"transparent, right", P::Transparent, 2, 3, 3, value(rgb(128, 0, 128)),
+         kTransparentColour},
+        {"mini cell 15 replaces transparent", P::MiniPalette, 2, 95, 51, value(rgb(128, 0, 128)),
+         value(kWhite)},
+        {"middle button", P::Chart, 4, 25, 0, value(rgb(128, 0, 128)), value(kWhite)},
+    };
+    for (const auto& s : steps) {
+        SCOPED_TRACE(s.what);
+        pickers.mouseDown(s.picker, s.button, s.x, s.y, colours);
+        EXPECT_EQ(colours.value[0], s.left);
+        EXPECT_EQ(colours.value[1], s.right);
+    }
+}
+
+TEST(ColourPickersTest, DragFollowsThePointerAndStaysOnThePicker) {
+    ColourPickers pickers;
+    ButtonColours colours;
+    using P = ColourPickers;
+    const struct {
+        P::Picker picker;
+        int x, y;
+        Colour expected;
+    } moves[] = {
+        {P::Chart, 25, 0, rgb(255, 0, 0)},
+        {P::Chart, -40, 200, kBlack},
+        {P::Chart, 900, 5, kWhite},
+        {P::Chart, 25, 5000, rgb(255, 0, 255)},
+        {P::GreyRamp, 200, -3, kWhite},
+        {P::MiniPalette, -1, -1, kBlack},
+        {P::MiniPalette, 500, 0, rgb(0, 128, 128)},
+        {P::MiniPalette, 0, 500, rgb(255, 0, 0)},
+    };
+    pickers.mouseDown(P::Chart, 1, 0, 0, colours);
+    for (const auto& m : moves) {
+        pickers.mouseMove(m.picker, 1, m.x, m.y, colours);
+        EXPECT_EQ(colours.value[0], static_cast<std::int32_t>(m.expected)) << m.x << ", " << m.y;
+        EXPECT_EQ(colours.value[1], static_cast<std::int32_t>(kWhite));
+    }
+}
+
+TEST(ColourPickersTest, SwatchShowsTheColourOrTheHatch) {
+    const Plane red = ColourPickers::swatch(static_cast<std::int32_t>(rgb(255, 0, 0)));
+    EXPECT_EQ(red, Plane(23, 12, rgb(255, 0, 0)));
+
+    const Plane clear = ColourPickers::swatch(kTransparentColour);
+    ASSERT_EQ(clear.width(), 23);
+    ASSERT_EQ(clear.height(), 12);
+    const Plane& pattern = Resources::transparentPattern();
+    for (int y = 0; y < 12; ++y)
+        for (int x = 0; x < 23; ++x)
+            ASSERT_EQ(clear.pixel(x, y), pattern.pixel(x, y)) << x << ", " << y;
+    EXPECT_EQ(clear.pixel(5, 0), kBlack);
+    EXPECT_EQ(clear.pixel(5, 1), kWhite);
+
+    const Plane wide = ColourPickers::swatch(kTransparentColour, 30, 14);
+    EXPECT_EQ(wide.pixel(29, 13), kWhite);
+    EXPECT_EQ(wide.pixel(22, 11), pattern.pixel(22, 11));
+}
+
+} // namespace
