@@ -164,7 +164,7 @@ IconLoadResult IconReader::loadMultiIcon(const QByteArray& bytes, const IconDesc
         chosen.bitDepth == 1 || chosen.bitDepth == 4 || chosen.bitDepth == 8 ? chosen.bitDepth : 24;
     const qint64 tableOffset = static_cast<qint64>(entry->imageOffset) + kInfoHeaderBytes;
     const auto table = IconDecoder::readTable(in, tableOffset, tableEntries(depth));
-    if (entry->imageOffset < 0 || !table)
+    if (!table)
         return failure(ReadFault::OutOfBounds);
     return decoded(in, tableOffset + 4LL * tableEntries(depth), chosen.width, depth, *table);
 }
