@@ -162,6 +162,9 @@ IconLoadResult IconReader::loadMultiIcon(const QByteArray& bytes, const IconDesc
     // purpose; one-image files go through the fuller decoder above.
     const int depth =
         chosen.bitDepth == 1 || chosen.bitDepth == 4 || chosen.bitDepth == 8 ? chosen.bitDepth : 24;
+    // The header itself is skipped unread, so its offset is checked here.
+    if (entry->imageOffset < 0)
+        return failure(ReadFault::OutOfBounds);
     const qint64 tableOffset = static_cast<qint64>(entry->imageOffset) + kInfoHeaderBytes;
     const auto table = IconDecoder::readTable(in, tableOffset, tableEntries(depth));
     if (!table)
