@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QPalette>
+#include <QRect>
+
+class QPainter;
+
+// The 3-D edges of the program's windows, drawn with the style's shades so
+// they follow the desktop's colours.
+namespace Edges {
+// Sunken, two pixels wide, inside rect (the DrawEdge look of a well).
+void sunken(QPainter& painter, const QRect& rect, const QPalette& palette);
+// An etched groove, one dark and one light line, inside rect.
+void etched(QPainter& painter, const QRect& rect, const QPalette& palette);
+// The two-pixel sunken band along the top of a client area.
+void topBand(QPainter& painter, int width, const QPalette& palette);
+} // namespace Edges

@@ -1,0 +1,100 @@
+#include "app/PictureBox.h"
+
+#include "app/PlaneImage.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+
+#include <algorithm>
+
+namespace {
+
+// The smallest rectangle holding every pixel in which the two images of equal
+// size differ; empty when they are the same.
+QRect changedArea(const QImage& before, const QImage& after) {
+    int left = after.width(), right = -1, top = after.height(), bottom = -1;
+    for (int y = 0; y < after.height(); ++y) {
+        const auto* a = reinterpret_cast<const QRgb*>(before.constScanLine(y));
+        const auto* b = reinterpret_cast<const QRgb*>(after.constScanLine(y));
+        for (int x = 0; x < after.width(); ++x) {
+            if (a[x] == b[x])
+                continue;
+            left = std::min(left, x);
+            right = std::max(right, x);
+            top = std::min(top, y);
+            bottom = std::max(bottom, y);
+        }
+    }
+    return right < 0 ? QRect() : QRect(QPoint(left, top), QPoint(right, bottom));
+}
+
+} // namespace
+
+PictureBox::PictureBox(const QString& name, QWidget* parent) : QWidget(parent) {
+    setObjectName(name);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+void PictureBox::setPlane(const Plane& plane) {
+    QImage next = PlaneImage::toImage(plane);
+    if (next.size() != image_.size()) {
+        image_ = std::move(next);
+        setFixedSize(image_.size());
+        update();
+        return;
+    }
+    const QRect changed = changedArea(image_, next);
+    image_ = std::move(next);
+    if (!changed.isNull())
+        update(changed);
+}
+
+int PictureBox::buttonNumber(Qt::MouseButton button) {
+    switch (button) {
+    case Qt::LeftButton:
+        return 1;
+    case Qt::RightButton:
+        return 2;
+    default:
+        return 0;
+    }
+}
+
+int PictureBox::buttonSum(Qt::MouseButtons buttons) {
+    return (buttons & Qt::LeftButton ? 1 : 0) + (buttons & Qt::RightButton ? 2 : 0);
+}
+
+void PictureBox::paintEvent(QPaintEvent* event) {
+    QPainter painter(this);
+    painter.drawImage(event->rect(), image_, event->rect());
+}
+
+QPointF PictureBox::pointOf(const QMouseEvent* event, bool buttonHeld) const {
+    QPointF p = event->position();
+    if (confined_ && buttonHeld) {
+        p.setX(std::clamp(p.x(), 0.0, static_cast<double>(width() - 1)));
+        p.setY(std::clamp(p.y(), 0.0, static_cast<double>(height() - 1)));
+    }
+    return p;
+}
+
+// Qt keeps sending the mouse to the picture the button went down on until the
+// last button is released, so a drag that leaves the picture still arrives
+// here: the capture the canvas and the pickers rely on.
+void PictureBox::mousePressEvent(QMouseEvent* event) {
+    const int button = buttonNumber(event->button());
+    if (button != 0)
+        emit mouseDown(button, pointOf(event, true));
+}
+
+void PictureBox::mouseMoveEvent(QMouseEvent* event) {
+    const int buttons = buttonSum(event->buttons());
+    emit mouseMove(buttons, pointOf(event, buttons != 0));
+}
+
+void PictureBox::mouseReleaseEvent(QMouseEvent* event) {
+    const int button = buttonNumber(event->button());
+    if (button == 0)
+        return;
+    emit mouseUp(button, pointOf(event, true));
+}
