@@ -1,5 +1,8 @@
 #include "app/ToolIcons.h"
 
+#include "app/PlaneImage.h"
+#include "platform/Shapes.h"
+
 #include <QImage>
 #include <QPainter>
 #include <QPainterPath>
@@ -100,41 +103,50 @@ void drawFlood(QPainter& p) {
     p.drawEllipse(QRectF(0.5, 10.5, 4, 5));
 }
 
-void drawShape(QPainter& p, int tool) {
-    p.setPen(kOutline);
-    const QRect box(2, 3, 11, 9);
+// The shape tools' pictures are drawn with the program's own figures, so each
+// shows what its tool leaves on the icon.
+QImage shapeImage(int tool) {
+    constexpr Colour kClear = 0xFF00FF; // stands for "nothing here"
+    Plane plane(ToolIcons::kIconSize, ToolIcons::kIconSize, kClear);
+    const Pen pen{kBlack, 1, PenMode::Copy};
+    const Colour inside = rgb(kInside.red(), kInside.green(), kInside.blue());
     switch (tool) {
     case 5:
-        p.drawLine(2, 13, 13, 2);
+        drawLine(plane, 2, 13, 14, 1, pen);
         break;
     case 6:
-        p.drawRect(box);
+        drawBox(plane, 2, 3, 13, 12, pen);
         break;
     case 7:
-        p.drawEllipse(QRect(1, 3, 13, 9));
+        drawEllipse(plane, 1, 3, 15, 13, pen);
         break;
     case 8:
-        p.setBrush(kOutline);
-        p.drawRect(box);
+        fillBox(plane, 2, 3, 13, 12, kBlack);
         break;
     case 9:
-        p.setBrush(kOutline);
-        p.drawEllipse(QRect(1, 3, 13, 9));
+        drawEllipse(plane, 1, 3, 15, 13, pen, kBlack);
         break;
     case 10:
-        p.setBrush(kInside);
-        p.drawRect(box);
+        fillBox(plane, 2, 3, 13, 12, inside);
+        drawBox(plane, 2, 3, 13, 12, pen);
         break;
     case 11:
-        p.setBrush(kInside);
-        p.drawEllipse(QRect(1, 3, 13, 9));
+        drawEllipse(plane, 1, 3, 15, 13, pen, inside);
         break;
     default:
         break;
     }
+    QImage image = blank(ToolIcons::kIconSize);
+    for (int y = 0; y < plane.height(); ++y)
+        for (int x = 0; x < plane.width(); ++x)
+            if (plane.pixel(x, y) != kClear)
+                image.setPixel(x, y, PlaneImage::toRgb(plane.pixel(x, y)));
+    return image;
 }
 
 QImage iconImage(int tool) {
+    if (tool >= 5)
+        return shapeImage(tool);
     QImage image = blank(ToolIcons::kIconSize);
     QPainter p(&image);
     switch (tool) {
@@ -154,7 +166,6 @@ QImage iconImage(int tool) {
         drawFlood(p);
         break;
     default:
-        drawShape(p, tool);
         break;
     }
     return image;
