@@ -187,4 +187,34 @@ TEST_F(SelectToolTest, MovesAndReleasesWithoutAPressDoNothing) {
     EXPECT_EQ(editor->canvas.PicMain, canvasBefore);
 }
 
+class SelectToolThroughTheCanvasTest : public SelectionFixture {};
+
+TEST_F(SelectToolThroughTheCanvasTest, EitherButtonMarksAndMovesOthersDoNothing) {
+    paint(2, 2, kRed);
+    recordPainting();
+    editor->tools.chooseTool(DrawingTools::Select);
+
+    drag(3, {{25, 25}, {61, 50}});
+    EXPECT_FALSE(sel().exists());
+
+    drag(1, {{25, 25}, {61, 50}});
+    ASSERT_TRUE(sel().SelMarked);
+    EXPECT_EQ(sel().SelRect.Left, 24);
+    EXPECT_EQ(sel().SelRect.Right, 60);
+    EXPECT_EQ(sel().SelRect.Bottom, 48);
+
+    drag(2, {{30, 30}, {54, 42}}); // two cells right, one down
+    EXPECT_TRUE(sel().SelFloating);
+    EXPECT_EQ(sel().SelRect.Left, 48);
+    EXPECT_EQ(sel().SelRect.Top, 36);
+    EXPECT_EQ(editor->canvas.PicMain, expectedCanvas(true, true));
+    // Selecting leaves the redo history alone; only the commit records.
+    EXPECT_EQ(undoSize(), 2u);
+
+    editor->tools.chooseTool(DrawingTools::Pencil);
+    EXPECT_EQ(pixelAt(4, 3), std::make_pair(kRed, kBlack));
+    EXPECT_TRUE(doc().isTransparent(2, 2));
+    EXPECT_EQ(undoSize(), 3u);
+}
+
 } // namespace
