@@ -168,13 +168,4 @@ TEST_F(UndoRedoTest, NewStartsAFreshHistoryAtTheNewSize) {
     EXPECT_EQ(pixelAt(3, 3), std::make_pair(kTeal, kBlack));
 }
 
-TEST_F(UndoRedoTest, AbandonedNewKeepsTheHistory) {
-    stroke(1, 1, kOrange);
-    dialogs.prompts.push_back(PromptAnswer::Cancel);
-    editor->newIcon(2);
-    EXPECT_EQ(undoSize(), 2u);
-    EXPECT_TRUE(undoEnabled());
-    EXPECT_EQ(editor->doc.size, 32);
-}
-
 } // namespace

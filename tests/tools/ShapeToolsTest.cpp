@@ -7,225 +7,60 @@ class ShapeToolsTest : public ToolsFixture {};
 using T = DrawingTools;
 constexpr std::int32_t kClear = kTransparentColour;
 
+// One gesture: press on icon pixel (x1, y1), release on (x2, y2); the picture
+// ('/' between rows) lies with its top-left at (ox, oy).
 struct ShapeCase {
-    const char* what;
-    int sizeIndex;
-    int tool;
-    int button;
-    std::int32_t leftColour, rightColour;
-    int fromX, fromY, toX, toY; // icon pixels of the press and of the release
-    int originX, originY;       // where the picture's top-left lies
-    std::vector<std::string> picture;
+    int sizeIndex, tool, button;
+    std::int32_t left, right;
+    int x1, y1, x2, y2, ox, oy;
+    const char* picture;
 };
 
 // The document starts opaque green; after the drag both planes must match the
 // picture exactly. The press is just inside its cell and the drag ends on the
-// far edge of the last cell, passing a different cell first.
+// far edge of the last cell, passing a different cell first. 'L' and 'R' are
+// the left (red) and right (blue) colours, 'T' the transparent pair.
 TEST_F(ShapeToolsTest, EveryShapeWritesExactlyItsPixelsInBothPlanes) {
-    const Colour red = kRed, blue = kBlue;
-    const auto L = static_cast<std::int32_t>(red), R = static_cast<std::int32_t>(blue);
-    const std::vector<ShapeCase> cases = {
-        {"line, end pixel included", 1, T::Line, 1, L, R, 1, 1, 5, 1, 0, 0, {"......", ".LLLLL"}},
-        {"line backwards, right button",
-         0,
-         T::Line,
-         2,
-         L,
-         R,
-         4,
-         4,
-         1,
-         1,
-         1,
-         1,
-         {"R...", ".R..", "..R.", "...R"}},
-        {"transparent line", 2, T::Line, 1, kClear, R, 0, 2, 0, 5, 0, 2, {"T", "T", "T", "T"}},
-        {"one-pixel line", 1, T::Line, 1, L, R, 3, 3, 3, 3, 3, 3, {"L"}},
-        {"rectangle", 1, T::Rectangle, 1, L, R, 1, 1, 4, 3, 1, 1, {"LLLL", "L..L", "LLLL"}},
-        {"rectangle backwards, right button",
-         2,
-         T::Rectangle,
-         2,
-         L,
-         R,
-         6,
-         5,
-         2,
-         2,
-         2,
-         2,
-         {"RRRRR", "R...R", "R...R", "RRRRR"}},
-        {"rectangle to the last pixel",
-         2,
-         T::Rectangle,
-         1,
-         L,
-         R,
-         44,
-         44,
-         47,
-         47,
-         44,
-         44,
-         {"LLLL", "L..L", "L..L", "LLLL"}},
-        {"solid rectangle", 0, T::SolidRectangle, 1, L, R, 1, 1, 3, 2, 1, 1, {"LLL", "LLL"}},
-        {"transparent solid rectangle",
-         1,
-         T::SolidRectangle,
-         2,
-         L,
-         kClear,
-         2,
-         2,
-         3,
-         4,
-         2,
-         2,
-         {"TT", "TT", "TT"}},
-        {"filled rectangle, left button",
-         1,
-         T::FilledRectangle,
-         1,
-         L,
-         R,
-         0,
-         0,
-         3,
-         3,
-         0,
-         0,
-         {"LLLL", "LRRL", "LRRL", "LLLL"}},
-        {"filled rectangle, right button swaps the roles",
-         2,
-         T::FilledRectangle,
-         2,
-         L,
-         R,
-         3,
-         3,
-         0,
-         0,
-         0,
-         0,
-         {"RRRR", "RLLR", "RLLR", "RRRR"}},
-        {"filled rectangle, transparent inside",
-         0,
-         T::FilledRectangle,
-         1,
-         L,
-         kClear,
-         1,
-         1,
-         4,
-         3,
-         1,
-         1,
-         {"LLLL", "LTTL", "LLLL"}},
-        {"filled rectangle, transparent outline",
-         1,
-         T::FilledRectangle,
-         1,
-         kClear,
-         R,
-         1,
-         1,
-         4,
-         3,
-         1,
-         1,
-         {"TTTT", "TRRT", "TTTT"}},
-        {"ellipse", 1, T::Ellipse, 1, L, R, 1, 1, 5, 3, 1, 1, {".LLL.", "L...L", ".LLL."}},
-        {"ellipse, 7 x 7",
-         0,
-         T::Ellipse,
-         1,
-         L,
-         R,
-         8,
-         8,
-         14,
-         14,
-         8,
-         8,
-         {"..LLL..", ".L...L.", "L.....L", "L.....L", "L.....L", ".L...L.", "..LLL.."}},
-        {"solid ellipse, right button",
-         0,
-         T::SolidEllipse,
-         2,
-         L,
-         R,
-         1,
-         1,
-         5,
-         3,
-         1,
-         1,
-         {".RRR.", "RRRRR", ".RRR."}},
-        {"filled ellipse backwards",
-         2,
-         T::FilledEllipse,
-         1,
-         L,
-         R,
-         14,
-         14,
-         8,
-         8,
-         8,
-         8,
-         {"..LLL..", ".LRRRL.", "LRRRRRL", "LRRRRRL", "LRRRRRL", ".LRRRL.", "..LLL.."}},
-        {"filled ellipse, right button, transparent inside",
-         1,
-         T::FilledEllipse,
-         2,
-         kClear,
-         R,
-         1,
-         1,
-         5,
-         3,
-         1,
-         1,
-         {".RRR.", "RTTTR", ".RRR."}},
-        {"transparent ellipse",
-         2,
-         T::Ellipse,
-         1,
-         kClear,
-         R,
-         1,
-         1,
-         5,
-         3,
-         1,
-         1,
-         {".TTT.", "T...T", ".TTT."}},
+    const auto L = static_cast<std::int32_t>(kRed), R = static_cast<std::int32_t>(kBlue);
+    // clang-format off
+    const ShapeCase cases[] = {
+        {1, T::Line, 1, L, R,           1, 1, 5, 1,      1, 1, "LLLLL"},  // end pixel included
+        {0, T::Line, 2, L, R,           4, 4, 1, 1,      1, 1, "R.../.R../..R./...R"},
+        {2, T::Line, 1, kClear, R,      0, 2, 0, 5,      0, 2, "T/T/T/T"},
+        {1, T::Line, 1, L, R,           3, 3, 3, 3,      3, 3, "L"},
+        {1, T::Rectangle, 1, L, R,      1, 1, 4, 3,      1, 1, "LLLL/L..L/LLLL"},
+        {2, T::Rectangle, 2, L, R,      6, 5, 2, 2,      2, 2, "RRRRR/R...R/R...R/RRRRR"},
+        {2, T::Rectangle, 1, L, R,      44, 44, 47, 47,  44, 44, "LLLL/L..L/L..L/LLLL"},
+        {0, T::SolidRectangle, 1, L, R, 1, 1, 3, 2,      1, 1, "LLL/LLL"},
+        {1, T::SolidRectangle, 2, L, kClear, 2, 2, 3, 4, 2, 2, "TT/TT/TT"},
+        {1, T::FilledRectangle, 1, L, R, 0, 0, 3, 3,     0, 0, "LLLL/LRRL/LRRL/LLLL"},
+        {2, T::FilledRectangle, 2, L, R, 3, 3, 0, 0,     0, 0, "RRRR/RLLR/RLLR/RRRR"},  // roles swap
+        {0, T::FilledRectangle, 1, L, kClear, 1, 1, 4, 3, 1, 1, "LLLL/LTTL/LLLL"},
+        {1, T::FilledRectangle, 1, kClear, R, 1, 1, 4, 3, 1, 1, "TTTT/TRRT/TTTT"},
+        {1, T::Ellipse, 1, L, R,        1, 1, 5, 3,      1, 1, ".LLL./L...L/.LLL."},
+        {0, T::Ellipse, 1, L, R,        8, 8, 14, 14,    8, 8,
+         "..LLL../.L...L./L.....L/L.....L/L.....L/.L...L./..LLL.."},
+        {0, T::SolidEllipse, 2, L, R,   1, 1, 5, 3,      1, 1, ".RRR./RRRRR/.RRR."},
+        {2, T::FilledEllipse, 1, L, R,  14, 14, 8, 8,    8, 8,
+         "..LLL../.LRRRL./LRRRRRL/LRRRRRL/LRRRRRL/.LRRRL./..LLL.."},
+        {1, T::FilledEllipse, 2, kClear, R, 1, 1, 5, 3,  1, 1, ".RRR./RTTTR/.RRR."},
+        {2, T::Ellipse, 1, kClear, R,   1, 1, 5, 3,      1, 1, ".TTT./T...T/.TTT."},
     };
+    // clang-format on
     for (const ShapeCase& c : cases) {
-        SCOPED_TRACE(c.what);
+        SCOPED_TRACE(testing::Message() << "tool " << c.tool << " to " << c.x2 << ", " << c.y2
+                                        << " at size index " << c.sizeIndex);
         startWithSize(c.sizeIndex);
         fillOpaque(kGreen);
-        editor->colours.value = {c.leftColour, c.rightColour};
+        editor->colours.value = {c.left, c.right};
         editor->tools.chooseTool(c.tool);
-        press(c.button, at(c.fromX), at(c.fromY));
-        move(c.button, at((c.fromX + c.toX) / 2 + 1, 3), at(c.fromY + 1, 3));
-        move(c.button, at(c.toX, zoom() - 1), at(c.toY, zoom() - 1));
-        release(c.button, at(c.toX, zoom() - 1), at(c.toY, zoom() - 1));
-        expectPicture(c.picture, c.originX, c.originY, kGreen, red, blue);
+        press(c.button, at(c.x1), at(c.y1));
+        move(c.button, at((c.x1 + c.x2) / 2 + 1, 3), at(c.y1 + 1, 3));
+        move(c.button, at(c.x2, zoom() - 1), at(c.y2, zoom() - 1));
+        release(c.button, at(c.x2, zoom() - 1), at(c.y2, zoom() - 1));
+        expectPicture(c.picture, c.ox, c.oy, kGreen, kRed, kBlue);
         EXPECT_TRUE(editor->doc.modified);
         EXPECT_EQ(editor->readoutToXY, "");
-    }
-}
-
-// A press and release without a move draws the figure of the one pixel.
-TEST_F(ShapeToolsTest, ClickDrawsTheOnePixelFigure) {
-    for (int tool : {T::Line, T::Rectangle, T::SolidEllipse}) {
-        SCOPED_TRACE(tool);
-        startWithSize(1);
-        fillOpaque(kGreen);
-        editor->tools.chooseTool(tool);
-        click(1, 6, 7);
-        expectPicture({"L"}, 6, 7, kGreen, kBlack, kWhite);
     }
 }
 

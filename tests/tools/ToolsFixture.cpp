@@ -1,7 +1,18 @@
 #include "tools/ToolsFixture.h"
 
-void ToolsFixture::expectPicture(const std::vector<std::string>& picture, int ox, int oy,
-                                 Colour background, Colour left, Colour right) const {
+std::vector<std::string> rowsOf(const char* picture) {
+    std::vector<std::string> rows(1);
+    for (const char* c = picture; *c; ++c)
+        if (*c == '/')
+            rows.emplace_back();
+        else
+            rows.back().push_back(*c);
+    return rows;
+}
+
+void ToolsFixture::expectPicture(const char* text, int ox, int oy, Colour background, Colour left,
+                                 Colour right) const {
+    const std::vector<std::string> picture = rowsOf(text);
     const int n = editor->doc.size;
     int wrong = 0;
     for (int y = 0; y < n; ++y) {
@@ -18,8 +29,6 @@ void ToolsFixture::expectPicture(const std::vector<std::string>& picture, int ox
                 expected = {right, kBlack};
             else if (c == 'T')
                 expected = {kBlack, kWhite};
-            else if (c == '!')
-                expected = {left, kWhite};
             const auto actual = pixelAt(x, y);
             if (actual != expected && ++wrong <= 8)
                 ADD_FAILURE() << "pixel (" << x << ", " << y << ") '" << c << "': colour "

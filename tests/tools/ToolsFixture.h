@@ -8,6 +8,9 @@
 // The editor fixture with the vocabulary of the tool tests: icon pixels
 // turned into canvas points, and whole planes compared against small
 // pictures.
+// "ab/cd" as the rows "ab" and "cd".
+std::vector<std::string> rowsOf(const char* picture);
+
 class ToolsFixture : public EditorFixture {
   protected:
     static constexpr Colour kRed = 0x0000FF;
@@ -37,10 +40,10 @@ class ToolsFixture : public EditorFixture {
         release(button, at(x), at(y));
     }
 
-    // Compares both planes with a picture whose top-left lies at (ox, oy):
-    // '.' stays `background` (opaque), 'L' and 'R' are opaque in the two
-    // button colours, 'T' is the transparent pair, '!' inverting in `left`.
-    // Pixels outside the picture must keep the background.
-    void expectPicture(const std::vector<std::string>& picture, int ox, int oy, Colour background,
-                       Colour left, Colour right) const;
+    // Compares both planes with a picture ('/' between rows) whose top-left
+    // lies at (ox, oy): '.' stays `background` (opaque), 'L' and 'R' are
+    // opaque in the two button colours, 'T' is the transparent pair. Pixels
+    // outside the picture must keep the background.
+    void expectPicture(const char* picture, int ox, int oy, Colour background, Colour left,
+                       Colour right) const;
 };
