@@ -22,12 +22,16 @@ void Canvas::clear() {
 }
 
 void Canvas::drawBackground(int zoom) {
-    PicMainCopy.fill(kWhite);
-    const Plane& pattern = Resources::transparentPattern();
-    for (int j = 0; j * zoom < kCanvasSize; ++j)
-        for (int i = 0; i * zoom < kCanvasSize; ++i)
-            bitBlt(PicMainCopy, 1 + i * zoom, 1 + j * zoom, zoom - 2, zoom - 2, pattern, 0, 0,
-                   RasterOp::Copy);
+    if (zoom != backgroundZoom_) {
+        background_.reset(kCanvasSize, kCanvasSize, kWhite);
+        const Plane& pattern = Resources::transparentPattern();
+        for (int j = 0; j * zoom < kCanvasSize; ++j)
+            for (int i = 0; i * zoom < kCanvasSize; ++i)
+                bitBlt(background_, 1 + i * zoom, 1 + j * zoom, zoom - 2, zoom - 2, pattern, 0,
+                       0, RasterOp::Copy);
+        backgroundZoom_ = zoom;
+    }
+    PicMainCopy = background_;
 }
 
 void Canvas::drawGrid(int zoom) {

@@ -61,4 +61,10 @@ public:
     Plane PicIcon;
     int previewLeft = 0;
     int previewTop = 0;
+
+private:
+    // The hatched empty canvas of the last zoom drawn; every refresh starts
+    // from it, so it is built once per zoom rather than cell by cell.
+    Plane background_;
+    int backgroundZoom_ = 0;
 };

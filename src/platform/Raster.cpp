@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <vector>
 
 Colour applyRasterOp(Colour dst, Colour src, RasterOp op) {
     switch (op) {
@@ -15,25 +16,58 @@ Colour applyRasterOp(Colour dst, Colour src, RasterOp op) {
     return src;
 }
 
-void bitBlt(Plane& dst, int dx, int dy, int w, int h, const Plane& src, int sx, int sy,
-            RasterOp op) {
-    stretchBlt(dst, dx, dy, w, h, src, sx, sy, w, h, op);
-}
-
 namespace {
 
 // Where each step of a span lands: origin + i for a positive extent,
 // origin - i for a negative one.
-int spanPosition(int origin, int extent, int i) {
-    return extent < 0 ? origin - i : origin + i;
+int spanPosition(int origin, int extent, int i) { return extent < 0 ? origin - i : origin + i; }
+
+// Combines one run of pixels; the operation is chosen once per run rather than
+// once per pixel, which keeps a full canvas redraw well inside a frame.
+void combineRun(Colour* dst, const Colour* src, int count, RasterOp op) {
+    switch (op) {
+    case RasterOp::Copy:
+        std::copy(src, src + count, dst);
+        break;
+    case RasterOp::And:
+        for (int i = 0; i < count; ++i)
+            dst[i] &= src[i];
+        break;
+    case RasterOp::Xor:
+        for (int i = 0; i < count; ++i)
+            dst[i] ^= src[i];
+        break;
+    }
 }
 
 } // namespace
+
+void bitBlt(Plane& dst, int dx, int dy, int w, int h, const Plane& src, int sx, int sy,
+            RasterOp op) {
+    if (w <= 0 || h <= 0)
+        return;
+    if (&src == &dst) {
+        const Plane copy(src);
+        bitBlt(dst, dx, dy, w, h, copy, sx, sy, op);
+        return;
+    }
+    // Clip the block against both planes, moving both origins together.
+    const int left = std::max({0, -dx, -sx});
+    const int top = std::max({0, -dy, -sy});
+    const int right = std::min({w, dst.width() - dx, src.width() - sx});
+    const int bottom = std::min({h, dst.height() - dy, src.height() - sy});
+    for (int j = top; j < bottom; ++j)
+        combineRun(dst.row(dy + j) + dx + left, src.row(sy + j) + sx + left, right - left, op);
+}
 
 void stretchBlt(Plane& dst, int dx, int dy, int dw, int dh, const Plane& src, int sx, int sy,
                 int sw, int sh, RasterOp op) {
     if (dw == 0 || dh == 0 || sw == 0 || sh == 0 || src.isEmpty() || dst.isEmpty())
         return;
+    if (dw > 0 && dh > 0 && dw == sw && dh == sh) {
+        bitBlt(dst, dx, dy, dw, dh, src, sx, sy, op);
+        return;
+    }
     // Reading from a copy makes a transfer of a plane onto itself behave as if
     // the whole source were read first.
     const Plane source = &src == &dst ? Plane(src) : Plane();
@@ -41,27 +75,44 @@ void stretchBlt(Plane& dst, int dx, int dy, int dw, int dh, const Plane& src, in
 
     const long long adw = std::llabs(dw), adh = std::llabs(dh);
     const long long asw = std::llabs(sw), ash = std::llabs(sh);
-    // Mirroring happens when source and destination extents differ in sign;
-    // expressed here by walking the destination forwards and the source in the
-    // direction that the sign difference asks for.
-    for (long long j = 0; j < adh; ++j) {
-        const int y = spanPosition(dy, dh, static_cast<int>(j));
-        if (y < 0 || y >= dst.height())
+    // Only destination pixels inside the plane are visited, so a huge extent
+    // costs no more than the plane. Mirroring happens when source and
+    // destination extents differ in sign: the destination is walked along its
+    // extent and the source along its own.
+    std::vector<int> targetColumns, sourceColumns;
+    for (int x = 0; x < dst.width(); ++x) {
+        const long long i = dw > 0 ? x - dx : dx - x;
+        if (i < 0 || i >= adw)
             continue;
-        const int srcStep = static_cast<int>(j * ash / adh);
-        const int syy = spanPosition(sy, sh, srcStep);
+        const int sxx = spanPosition(sx, sw, static_cast<int>(i * asw / adw));
+        if (sxx < 0 || sxx >= from.width())
+            continue;
+        targetColumns.push_back(x);
+        sourceColumns.push_back(sxx);
+    }
+    const std::size_t columns = targetColumns.size();
+    for (int y = 0; y < dst.height(); ++y) {
+        const long long j = dh > 0 ? y - dy : dy - y;
+        if (j < 0 || j >= adh)
+            continue;
+        const int syy = spanPosition(sy, sh, static_cast<int>(j * ash / adh));
         if (syy < 0 || syy >= from.height())
             continue;
         const Colour* srcRow = from.row(syy);
         Colour* dstRow = dst.row(y);
-        for (long long i = 0; i < adw; ++i) {
-            const int x = spanPosition(dx, dw, static_cast<int>(i));
-            if (x < 0 || x >= dst.width())
-                continue;
-            const int sxx = spanPosition(sx, sw, static_cast<int>(i * asw / adw));
-            if (sxx < 0 || sxx >= from.width())
-                continue;
-            dstRow[x] = applyRasterOp(dstRow[x], srcRow[sxx], op);
+        switch (op) {
+        case RasterOp::Copy:
+            for (std::size_t k = 0; k < columns; ++k)
+                dstRow[targetColumns[k]] = srcRow[sourceColumns[k]];
+            break;
+        case RasterOp::And:
+            for (std::size_t k = 0; k < columns; ++k)
+                dstRow[targetColumns[k]] &= srcRow[sourceColumns[k]];
+            break;
+        case RasterOp::Xor:
+            for (std::size_t k = 0; k < columns; ++k)
+                dstRow[targetColumns[k]] ^= srcRow[sourceColumns[k]];
+            break;
         }
     }
 }
@@ -71,9 +122,7 @@ void fillRect(Plane& dst, int left, int top, int right, int bottom, Colour c) {
     top = std::max(top, 0);
     right = std::min(right, dst.width());
     bottom = std::min(bottom, dst.height());
-    // A rectangle that is empty, inside out or wholly off the plane paints
-    // nothing (and must not hand std::fill a reversed range).
-    if (left >= right)
+    if (left >= right || top >= bottom)
         return;
     for (int y = top; y < bottom; ++y)
         std::fill(dst.row(y) + left, dst.row(y) + right, c);

@@ -12,11 +12,16 @@ class PixelSet {
   public:
     explicit PixelSet(const Plane& plane)
         : width_(plane.width()), height_(plane.height()),
-          marks_(static_cast<std::size_t>(width_) * height_, false) {}
+          marks_(static_cast<std::size_t>(width_) * height_, 0) {}
 
     void add(int x, int y) {
-        if (x >= 0 && y >= 0 && x < width_ && y < height_)
-            marks_[static_cast<std::size_t>(y) * width_ + x] = true;
+        if (x < 0 || y < 0 || x >= width_ || y >= height_)
+            return;
+        marks_[static_cast<std::size_t>(y) * width_ + x] = 1;
+        left_ = std::min(left_, x);
+        right_ = std::max(right_, x);
+        top_ = std::min(top_, y);
+        bottom_ = std::max(bottom_, y);
     }
 
     bool has(int x, int y) const {
@@ -36,10 +41,12 @@ class PixelSet {
                 add(x + i, y + j);
     }
 
+    // Visits only the figure's bounding box: a rubber band is redrawn on
+    // every mouse move and mostly covers a small part of the canvas.
     void paint(Plane& plane, PenMode mode, Colour colour) const {
-        for (int y = 0; y < height_; ++y) {
+        for (int y = top_; y <= bottom_; ++y) {
             Colour* row = plane.row(y);
-            for (int x = 0; x < width_; ++x) {
+            for (int x = left_; x <= right_; ++x) {
                 if (!marks_[static_cast<std::size_t>(y) * width_ + x])
                     continue;
                 row[x] = mode == PenMode::Invert ? (row[x] ^ kWhite) : colour;
@@ -49,7 +56,8 @@ class PixelSet {
 
   private:
     int width_, height_;
-    std::vector<bool> marks_;
+    std::vector<unsigned char> marks_;
+    int left_ = width_, right_ = -1, top_ = height_, bottom_ = -1;
 };
 
 } // namespace
