@@ -2,12 +2,11 @@
 
 #include "canvas/Resources.h"
 
-// What the canvas should show, worked out cell by cell from the offset of a
-// pixel inside its cell.
+// What the canvas should show, worked out from a pixel's offset in its cell.
 namespace CanvasExpectations {
 
-// The empty back buffer: white at the cell's first and last row and column,
-// the top-left of the hatch pattern in between.
+// The empty back buffer: a white first and last row and column in each cell,
+// the top-left of the hatch in between.
 inline Colour background(int x, int y, int zoom) {
     const int ox = x % zoom, oy = y % zoom;
     if (ox == 0 || oy == 0 || ox == zoom - 1 || oy == zoom - 1)
@@ -15,22 +14,18 @@ inline Colour background(int x, int y, int zoom) {
     return Resources::transparentPattern().pixel(ox - 1, oy - 1);
 }
 
-// The dotted grid at a pixel of a grid line: black and grey alternate along
-// the line, starting black at 0. Every crossing is at even coordinates.
-inline Colour gridDot(int alongLine) {
-    return alongLine % 2 == 0 ? kBlack : kGridGrey;
-}
-
 inline bool onGrid(int x, int y, int zoom) {
     return x % zoom == 0 || y % zoom == 0;
 }
 
-// PicMain over a back buffer pixel b: the grid where it runs, b elsewhere.
+// PicMain over back buffer pixel b: the dotted grid on the first row and
+// column of every cell, black at even coordinates and light grey between.
 inline Colour withGrid(int x, int y, int zoom, Colour b) {
+    const Colour grey = rgb(192, 192, 192);
     if (y % zoom == 0)
-        return gridDot(x);
+        return x % 2 == 0 ? kBlack : grey;
     if (x % zoom == 0)
-        return gridDot(y);
+        return y % 2 == 0 ? kBlack : grey;
     return b;
 }
 

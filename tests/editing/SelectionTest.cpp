@@ -9,49 +9,51 @@ TEST_F(SelectionTest, UndoAfterSelectAllUndoesExactlyOneEdit) {
     recordPainting();
     paint(2, 2, kGreen);
     recordPainting();
-    ASSERT_EQ(undoSize(), 3u);
-
-    editor->editAction(10);
+    editor->editAction(SelectAll);
     EXPECT_TRUE(sel().SelMarked);
     EXPECT_EQ(editor->tools.currentTool, DrawingTools::Select);
-    EXPECT_EQ(sel().SelRect.Right, 384);
+    EXPECT_EQ(rect().Right, 384);
     EXPECT_EQ(doc().PicSelImage.width(), 32);
-    EXPECT_EQ(editor->canvas.PicMain, expectedCanvas(false, true));
     EXPECT_EQ(undoSize(), 3u);
+    expectViews(false, true);
 
-    editor->editAction(0);
+    editor->editAction(Undo);
     EXPECT_FALSE(sel().exists());
     EXPECT_EQ(undoSize(), 2u);
     EXPECT_EQ(editor->undoRedo.RedoStack.size(), 1u);
     EXPECT_EQ(pixelAt(1, 1), std::make_pair(kRed, kBlack));
     EXPECT_TRUE(doc().isTransparent(2, 2));
-    EXPECT_EQ(editor->canvas.PicMain, expectedCanvas(false, false));
+    expectViews(false, false);
 }
 
+// By Deselect, or by marking elsewhere.
 TEST_F(SelectionTest, CommitOfAnUnmovedMarkedSelectionRecordsNothing) {
-    paint(3, 3, kRed);
-    paintInverting(4, 3, kBlue);
-    paintInverting(3, 5, kGreen); // outside the selection: left alone
-    recordPainting();
-    editor->doc.modified = false;
-    const std::size_t before = undoSize();
-
-    mark(36, 36, 72, 48); // icon pixels (3, 3) to (5, 3)
-    ASSERT_TRUE(sel().SelMarked);
-    editor->editAction(9);
-
-    EXPECT_FALSE(sel().exists());
-    EXPECT_EQ(sel().SelRect.Left, -1);
-    EXPECT_EQ(sel().SelRect.Bottom, -1);
-    EXPECT_EQ(undoSize(), before);
-    EXPECT_FALSE(doc().modified);
-    EXPECT_EQ(pixelAt(3, 3), std::make_pair(kRed, kBlack));
-    // The stamp of a copy of itself turns an inverting pixel's colour black.
-    EXPECT_EQ(pixelAt(4, 3), std::make_pair(kBlack, kWhite));
-    EXPECT_TRUE(doc().isTransparent(5, 3));
-    EXPECT_EQ(pixelAt(3, 5), std::make_pair(kGreen, kWhite));
-    EXPECT_EQ(editor->canvas.PicMain, expectedCanvas(false, false));
-    EXPECT_EQ(editor->canvas.PicIcon, expectedPreview(false));
+    for (const bool deselect : {true, false}) {
+        SCOPED_TRACE(deselect ? "Deselect" : "marking elsewhere");
+        startWithSize(1);
+        paint(3, 3, kRed);
+        paint(4, 3, kBlue, kWhite);
+        paint(3, 5, kGreen, kWhite); // outside the selection: left alone
+        recordPainting();
+        editor->doc.modified = false;
+        mark(36, 36, 72, 48); // icon pixels (3, 3) to (5, 3)
+        ASSERT_TRUE(sel().SelMarked);
+        if (deselect)
+            editor->editAction(Deselect);
+        else
+            mark(120, 120, 180, 168);
+        EXPECT_EQ(sel().SelMarked, !deselect);
+        EXPECT_EQ(std::pair(rect().Left, rect().Bottom),
+                  deselect ? std::pair(-1, -1) : std::pair(120, 168));
+        EXPECT_EQ(undoSize(), 2u);
+        EXPECT_FALSE(doc().modified);
+        EXPECT_EQ(pixelAt(3, 3), std::make_pair(kRed, kBlack));
+        // The stamp of a copy of itself turns an inverting pixel's colour black.
+        EXPECT_EQ(pixelAt(4, 3), std::make_pair(kBlack, kWhite));
+        EXPECT_TRUE(doc().isTransparent(5, 3));
+        EXPECT_EQ(pixelAt(3, 5), std::make_pair(kGreen, kWhite));
+        expectViews(false, !deselect);
+    }
 }
 
 TEST_F(SelectionTest, DeleteOfAMarkedThreeByThreeAreaClearsExactlyThatArea) {
@@ -59,80 +61,54 @@ TEST_F(SelectionTest, DeleteOfAMarkedThreeByThreeAreaClearsExactlyThatArea) {
         startWithSize(sizeIndex);
         const int n = doc().size, zoom = doc().zoom;
         SCOPED_TRACE(n);
-        for (int y = 0; y < n; ++y)
-            for (int x = 0; x < n; ++x)
-                paint(x, y, kGreen);
+        editor->doc.PicImage.fill(kGreen);
+        editor->doc.PicMask.fill(kBlack);
         recordPainting();
         const Plane image = doc().PicImage, mask = doc().PicMask;
-
         // Pressed and released inside cells: both corners snap to the grid.
         mark(2 * zoom + 1, 2 * zoom + 1, 5 * zoom + zoom - 1, 5 * zoom + 1);
-        ASSERT_TRUE(sel().SelMarked);
-        editor->editAction(7);
-
+        editor->editAction(Delete);
         for (int y = 0; y < n; ++y)
             for (int x = 0; x < n; ++x) {
                 const bool inside = x >= 2 && x <= 4 && y >= 2 && y <= 4;
-                if (inside)
-                    ASSERT_TRUE(doc().isTransparent(x, y)) << x << "," << y;
-                else
-                    ASSERT_EQ(pixelAt(x, y), std::make_pair(kGreen, kBlack)) << x << "," << y;
+                ASSERT_EQ(pixelAt(x, y),
+                          std::make_pair(inside ? kBlack : kGreen, inside ? kWhite : kBlack))
+                    << x << "," << y;
             }
         EXPECT_FALSE(sel().exists());
-        EXPECT_EQ(sel().SelRect.Left, -1);
+        EXPECT_EQ(rect().Left, -1);
         EXPECT_EQ(undoSize(), 3u);
-        EXPECT_EQ(editor->canvas.PicMain, expectedCanvas(false, false));
-
-        editor->editAction(0);
+        expectViews(false, false);
+        editor->editAction(Undo);
         EXPECT_EQ(doc().PicImage, image);
         EXPECT_EQ(doc().PicMask, mask);
     }
 }
 
-TEST_F(SelectionTest, DeleteOfAFloatingSelectionDropsItAndKeepsTheDocument) {
-    paint(0, 0, kRed);
-    recordPainting();
-    const Plane image = doc().PicImage, mask = doc().PicMask;
-    putOnClipboard(3, 3, kBlue);
-    editor->editAction(5);
-    ASSERT_TRUE(sel().SelFloating);
-
-    editor->editAction(7);
-    EXPECT_FALSE(sel().exists());
-    EXPECT_EQ(doc().PicImage, image);
-    EXPECT_EQ(doc().PicMask, mask);
-    EXPECT_EQ(undoSize(), 3u);
-    EXPECT_EQ(editor->canvas.PicMain, expectedCanvas(false, false));
-    EXPECT_EQ(editor->canvas.PicIcon, expectedPreview(false));
-}
-
-TEST_F(SelectionTest, SelectAllOverAFloatingSelectionCommitsItFirst) {
-    putOnClipboard(2, 2, kRed);
-    editor->editAction(5);
-    editor->editAction(10);
-
-    EXPECT_TRUE(sel().SelMarked);
-    EXPECT_FALSE(sel().SelFloating);
-    EXPECT_EQ(undoSize(), 2u);
-    EXPECT_EQ(pixelAt(1, 1), std::make_pair(kRed, kBlack));
-    // The new marked selection holds the committed picture.
-    EXPECT_EQ(doc().PicSelImage, doc().PicImage);
-    EXPECT_EQ(doc().PicSelMask, doc().PicMask);
-    EXPECT_EQ(editor->canvas.PicMain, expectedCanvas(false, true));
-}
-
-TEST_F(SelectionTest, ChoosingAnotherToolCommitsTheSelection) {
-    putOnClipboard(2, 1, kBlue);
-    editor->editAction(5);
-    EXPECT_EQ(editor->tools.currentTool, DrawingTools::Select);
-    EXPECT_EQ(editor->tools.previousTool, DrawingTools::Pencil);
-
-    editor->tools.chooseTool(DrawingTools::Line);
-    EXPECT_FALSE(sel().exists());
-    EXPECT_EQ(undoSize(), 2u);
-    EXPECT_EQ(pixelAt(1, 0), std::make_pair(kBlue, kBlack));
-    EXPECT_TRUE(doc().isTransparent(0, 1));
-    EXPECT_EQ(editor->canvas.PicMain, expectedCanvas(false, false));
+// Select All and another tool commit a floating selection; Delete drops it.
+TEST_F(SelectionTest, SelectAllOrAnotherToolCommitsAFloatingSelectionAndDeleteDropsIt) {
+    for (const char* step : {"Select All", "Line", "Delete"}) {
+        SCOPED_TRACE(step);
+        startWithSize(1);
+        clipboard.picture = Plane(2, 1, kBlue);
+        editor->editAction(Paste);
+        EXPECT_EQ(editor->tools.currentTool, DrawingTools::Select);
+        EXPECT_EQ(editor->tools.previousTool, DrawingTools::Pencil);
+        const std::string s = step;
+        if (s == "Line")
+            editor->tools.chooseTool(DrawingTools::Line);
+        else
+            editor->editAction(s == "Delete" ? Delete : SelectAll);
+        EXPECT_EQ(undoSize(), 2u);
+        EXPECT_EQ(pixelAt(1, 0),
+                  s == "Delete" ? std::pair(kBlack, kWhite) : std::pair(kBlue, kBlack));
+        EXPECT_TRUE(doc().isTransparent(0, 1));
+        EXPECT_FALSE(sel().SelFloating);
+        EXPECT_EQ(sel().SelMarked, s == "Select All");
+        // A new marked selection holds the committed picture.
+        EXPECT_TRUE(s != "Select All" || doc().PicSelImage == doc().PicImage);
+        expectViews(false, s == "Select All");
+    }
 }
 
 } // namespace

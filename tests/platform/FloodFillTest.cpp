@@ -15,62 +15,15 @@ constexpr Colour kMarker = 0x00FF00;
 const AsciiArt::Palette kPalette{{'.', kWhite}, {'#', kBlack}, {'-', kNearlyWhite}, {'m', kMarker}};
 
 TEST(FloodFillTest, FillsThroughSidesButNotThroughCornersNorNearColours) {
-    Plane plane = toPlane(
-        {
-            "..#....",
-            "..#....",
-            "##.#...",
-            "..#-...",
-            "..#....",
-        },
-        kPalette);
+    Plane plane = toPlane({"..#....", "..#....", "##.#...", "..#-...", "..#...."}, kPalette);
     // (2, 2) touches the top-left region only across a corner.
     floodFillSurface(plane, 0, 0, kMarker);
-    EXPECT_EQ(fromPlane(plane, kPalette), text({
-                                              "mm#....",
-                                              "mm#....",
-                                              "##.#...",
-                                              "..#-...",
-                                              "..#....",
-                                          }));
+    EXPECT_EQ(fromPlane(plane, kPalette),
+              text({"mm#....", "mm#....", "##.#...", "..#-...", "..#...."}));
     // (3, 3) differs from white in its last bit only: it stays.
     floodFillSurface(plane, 6, 0, kMarker);
-    EXPECT_EQ(fromPlane(plane, kPalette), text({
-                                              "mm#mmmm",
-                                              "mm#mmmm",
-                                              "##.#mmm",
-                                              "..#-mmm",
-                                              "..#mmmm",
-                                          }));
-}
-
-TEST(FloodFillTest, WindingRegionsAreFilledEverywhere) {
-    // A spiral: the fill has to turn back on itself several times.
-    Plane plane = toPlane(
-        {
-            ".........",
-            "########.",
-            ".......#.",
-            ".#####.#.",
-            ".#...#.#.",
-            ".#.###.#.",
-            ".#.....#.",
-            ".#######.",
-            ".........",
-        },
-        kPalette);
-    floodFillSurface(plane, 4, 4, kMarker);
-    EXPECT_EQ(fromPlane(plane, kPalette), text({
-                                              "mmmmmmmmm",
-                                              "########m",
-                                              "mmmmmmm#m",
-                                              "m#####m#m",
-                                              "m#mmm#m#m",
-                                              "m#m###m#m",
-                                              "m#mmmmm#m",
-                                              "m#######m",
-                                              "mmmmmmmmm",
-                                          }));
+    EXPECT_EQ(fromPlane(plane, kPalette),
+              text({"mm#mmmm", "mm#mmmm", "##.#mmm", "..#-mmm", "..#mmmm"}));
 }
 
 TEST(FloodFillTest, SameColourOrAStartOutsideChangesNothing) {
@@ -85,27 +38,20 @@ TEST(FloodFillTest, SameColourOrAStartOutsideChangesNothing) {
 }
 
 TEST(FloodFillTest, AWholeCanvasSizedSerpentineFillsWithoutRunningOutOfStack) {
-    // 385 x 385 with walls on every other row, open at alternate ends: one
-    // path of some 74,000 pixels, the worst case for a recursive fill.
+    // Walls on every other row, open at alternate ends: one path of some
+    // 74,000 pixels, the worst case for a recursive fill.
     const int size = 385;
-    Plane plane(size, size, kWhite);
+    Plane plane(size, size, kWhite), expected(size, size, kMarker);
     for (int y = 1; y < size; y += 2)
         for (int x = 0; x < size; ++x)
             if (x != ((y / 2) % 2 == 0 ? size - 1 : 0))
-                plane.setPixel(x, y, kBlack);
+                plane.setPixel(x, y, kBlack), expected.setPixel(x, y, kBlack);
     floodFillSurface(plane, 0, 0, kMarker);
-    int marked = 0;
-    for (int y = 0; y < size; ++y)
-        for (int x = 0; x < size; ++x) {
-            const bool wall = y % 2 == 1 && x != ((y / 2) % 2 == 0 ? size - 1 : 0);
-            ASSERT_EQ(plane.pixel(x, y), wall ? kBlack : kMarker) << x << "," << y;
-            marked += !wall;
-        }
-    EXPECT_EQ(marked, 193 * 385 + 192);
+    EXPECT_TRUE(plane == expected);
 
     Plane open(size, size, kWhite);
     floodFillSurface(open, 200, 100, kMarker);
-    EXPECT_EQ(open, Plane(size, size, kMarker));
+    EXPECT_TRUE(open == Plane(size, size, kMarker));
 }
 
 } // namespace

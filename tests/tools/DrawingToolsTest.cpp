@@ -12,18 +12,13 @@ TEST_F(DrawingToolsTest, OtherMouseButtonsDoNothing) {
         startWithSize(1);
         click(1, 2, 2);
         editor->editAction(0); // leaves something to redo
-        fillOpaque(kGreen);
-        const Plane image = editor->doc.PicImage, mask = editor->doc.PicMask;
+        draw("", 'g');
         const Plane canvas = editor->canvas.PicMain;
         const auto colours = editor->colours.value;
         editor->tools.chooseTool(tool);
-        for (int button : {0, 3, 4, 8}) {
-            press(button, at(2), at(2));
-            move(button, at(6), at(6));
-            release(button, at(6), at(6));
-        }
-        EXPECT_EQ(editor->doc.PicImage, image);
-        EXPECT_EQ(editor->doc.PicMask, mask);
+        for (int button : {0, 3, 4, 8})
+            drag(button, {{at(2), at(2)}, {at(6), at(6)}});
+        expectPicture(".", 0, 0, 'g');
         EXPECT_EQ(editor->canvas.PicMain, canvas);
         EXPECT_EQ(editor->colours.value, colours);
         EXPECT_EQ(editor->tools.currentTool, tool);
@@ -33,47 +28,28 @@ TEST_F(DrawingToolsTest, OtherMouseButtonsDoNothing) {
 }
 
 TEST_F(DrawingToolsTest, SecondButtonDuringAGestureIsIgnored) {
-    editor->colours.value = {static_cast<std::int32_t>(kRed), static_cast<std::int32_t>(kBlue)};
+    setColours(kRed, kBlue);
     press(1, at(1), at(1));
     press(2, at(2), at(2));
     move(1, at(3), at(1));
     release(2, at(3), at(1));
-    move(1, at(4), at(1));
+    move(1, at(4), at(1)); // still drawing after the right button's release
     release(1, at(4), at(1));
-    EXPECT_EQ(pixelAt(1, 1), std::make_pair(kRed, kBlack));
-    EXPECT_EQ(pixelAt(2, 2), std::make_pair(kBlack, kWhite));
-    EXPECT_EQ(pixelAt(4, 1), std::make_pair(kRed, kBlack)) << "still drawing after the right up";
+    expectPicture("r.rr", 1, 1, 'T');
     EXPECT_EQ(editor->undoRedo.UndoStack.size(), 2u);
 }
 
-TEST_F(DrawingToolsTest, ReadOutShowsPointerAndDragEnd) {
-    move(0, 5 * 12 + 3, 11 * 12 + 11);
-    EXPECT_EQ(editor->readoutXY, "05, 11");
-    EXPECT_EQ(editor->readoutToXY, "");
-
-    editor->tools.chooseTool(T::Line);
-    press(1, at(1), at(2));
-    EXPECT_EQ(editor->readoutXY, "01, 02");
-    move(1, at(12), at(30));
-    EXPECT_EQ(editor->readoutXY, "12, 30");
-    EXPECT_EQ(editor->readoutToXY, "12, 30");
-    release(1, at(12), at(30));
-    EXPECT_EQ(editor->readoutToXY, "");
-
-    startWithSize(2);
-    move(0, 383, 0);
-    EXPECT_EQ(editor->readoutXY, "47, 00");
-}
-
+// Sample hands back to the last drawing tool at mouse-up; Erase and Select
+// are never handed back to.
 TEST_F(DrawingToolsTest, ToolChoiceKeepsThePreviousDrawingToolAndTheCursor) {
     const struct {
-        int tool;
-        int previousAfter;
-        int cursor;
+        int tool, previousAfter, cursor;
+        bool clickAfter = false;
     } steps[] = {
-        {T::Line, T::Pencil, T::Select},      {T::Flood, T::Line, T::Flood},
-        {T::Erase, T::Flood, T::Erase},       {T::Select, T::Flood, T::Select},
-        {T::Sample, T::Flood, T::Sample},     {T::Rectangle, T::Flood, T::Select},
+        {T::Sample, T::Pencil, T::Sample, true}, {T::Line, T::Pencil, T::Select},
+        {T::Flood, T::Line, T::Flood},           {T::Erase, T::Flood, T::Erase},
+        {T::Select, T::Flood, T::Select},        {T::Sample, T::Flood, T::Sample},
+        {T::Sample, T::Flood, T::Sample, true},  {T::Rectangle, T::Flood, T::Select},
         {T::Pencil, T::Rectangle, T::Pencil},
     };
     for (const auto& s : steps) {
@@ -82,6 +58,10 @@ TEST_F(DrawingToolsTest, ToolChoiceKeepsThePreviousDrawingToolAndTheCursor) {
         EXPECT_EQ(editor->tools.currentTool, s.tool);
         EXPECT_EQ(editor->tools.previousTool, s.previousAfter);
         EXPECT_EQ(editor->tools.canvasCursorTool, s.cursor);
+        if (s.clickAfter) {
+            click(1, 0, 0);
+            EXPECT_EQ(editor->tools.currentTool, s.previousAfter);
+        }
     }
     editor->newIcon(0);
     EXPECT_EQ(editor->tools.currentTool, T::Pencil);

@@ -1,5 +1,7 @@
 #include "tools/ToolsFixture.h"
 
+#include "platform/Shapes.h"
+
 namespace {
 
 class ShapeToolsTest : public ToolsFixture {};
@@ -7,106 +9,89 @@ class ShapeToolsTest : public ToolsFixture {};
 using T = DrawingTools;
 constexpr std::int32_t kClear = kTransparentColour;
 
-// One gesture: press on icon pixel (x1, y1), release on (x2, y2); the picture
-// ('/' between rows) lies with its top-left at (ox, oy).
-struct ShapeCase {
-    int sizeIndex, tool, button;
-    std::int32_t left, right;
-    int x1, y1, x2, y2, ox, oy;
-    const char* picture;
-};
-
-// The document starts opaque green; after the drag both planes must match the
-// picture exactly. The press is just inside its cell and the drag ends on the
-// far edge of the last cell, passing a different cell first. 'L' and 'R' are
-// the left (red) and right (blue) colours, 'T' the transparent pair.
+// The document starts opaque green ('.'); after the drag both planes must
+// match the picture at (ox, oy) exactly and be green elsewhere. The press is
+// just inside its cell and the drag ends on the far edge of the last cell,
+// passing a different cell first. The left colour is red, the right blue,
+// unless a case makes one "Transparent".
 TEST_F(ShapeToolsTest, EveryShapeWritesExactlyItsPixelsInBothPlanes) {
-    const auto L = static_cast<std::int32_t>(kRed), R = static_cast<std::int32_t>(kBlue);
-    // clang-format off
-    const ShapeCase cases[] = {
-        {1, T::Line, 1, L, R,           1, 1, 5, 1,      1, 1, "LLLLL"},  // end pixel included
-        {0, T::Line, 2, L, R,           4, 4, 1, 1,      1, 1, "R.../.R../..R./...R"},
-        {2, T::Line, 1, kClear, R,      0, 2, 0, 5,      0, 2, "T/T/T/T"},
-        {1, T::Line, 1, L, R,           3, 3, 3, 3,      3, 3, "L"},
-        {1, T::Rectangle, 1, L, R,      1, 1, 4, 3,      1, 1, "LLLL/L..L/LLLL"},
-        {2, T::Rectangle, 2, L, R,      6, 5, 2, 2,      2, 2, "RRRRR/R...R/R...R/RRRRR"},
-        {2, T::Rectangle, 1, L, R,      44, 44, 47, 47,  44, 44, "LLLL/L..L/L..L/LLLL"},
-        {0, T::SolidRectangle, 1, L, R, 1, 1, 3, 2,      1, 1, "LLL/LLL"},
-        {1, T::SolidRectangle, 2, L, kClear, 2, 2, 3, 4, 2, 2, "TT/TT/TT"},
-        {1, T::FilledRectangle, 1, L, R, 0, 0, 3, 3,     0, 0, "LLLL/LRRL/LRRL/LLLL"},
-        {2, T::FilledRectangle, 2, L, R, 3, 3, 0, 0,     0, 0, "RRRR/RLLR/RLLR/RRRR"},  // roles swap
-        {0, T::FilledRectangle, 1, L, kClear, 1, 1, 4, 3, 1, 1, "LLLL/LTTL/LLLL"},
-        {1, T::FilledRectangle, 1, kClear, R, 1, 1, 4, 3, 1, 1, "TTTT/TRRT/TTTT"},
-        {1, T::Ellipse, 1, L, R,        1, 1, 5, 3,      1, 1, ".LLL./L...L/.LLL."},
-        {0, T::Ellipse, 1, L, R,        8, 8, 14, 14,    8, 8,
-         "..LLL../.L...L./L.....L/L.....L/L.....L/.L...L./..LLL.."},
-        {0, T::SolidEllipse, 2, L, R,   1, 1, 5, 3,      1, 1, ".RRR./RRRRR/.RRR."},
-        {2, T::FilledEllipse, 1, L, R,  14, 14, 8, 8,    8, 8,
-         "..LLL../.LRRRL./LRRRRRL/LRRRRRL/LRRRRRL/.LRRRL./..LLL.."},
-        {1, T::FilledEllipse, 2, kClear, R, 1, 1, 5, 3,  1, 1, ".RRR./RTTTR/.RRR."},
-        {2, T::Ellipse, 1, kClear, R,   1, 1, 5, 3,      1, 1, ".TTT./T...T/.TTT."},
+    const auto r = static_cast<std::int32_t>(kRed), b = static_cast<std::int32_t>(kBlue);
+    const struct {
+        int sizeIndex, tool, button;
+        std::int32_t left, right;
+        int x1, y1, x2, y2, ox, oy;
+        const char* picture;
+    } cases[] = {
+        // clang-format off
+        {1, T::Line, 1, r, b,           1, 1, 5, 1,      1, 1, "rrrrr"},  // end pixel included
+        {0, T::Line, 2, r, b,           4, 4, 1, 1,      1, 1, "b.../.b../..b./...b"},
+        {2, T::Line, 1, kClear, b,      0, 2, 0, 5,      0, 2, "T/T/T/T"},
+        {1, T::Line, 1, r, b,           3, 3, 3, 3,      3, 3, "r"},
+        {1, T::Rectangle, 1, r, b,      1, 1, 4, 3,      1, 1, "rrrr/r..r/rrrr"},
+        {2, T::Rectangle, 2, r, b,      6, 5, 2, 2,      2, 2, "bbbbb/b...b/b...b/bbbbb"},
+        {2, T::Rectangle, 1, r, b,      44, 44, 47, 47,  44, 44, "rrrr/r..r/r..r/rrrr"},
+        {0, T::SolidRectangle, 1, r, b, 1, 1, 3, 2,      1, 1, "rrr/rrr"},
+        {1, T::SolidRectangle, 2, r, kClear, 2, 2, 3, 4, 2, 2, "TT/TT/TT"},
+        {1, T::FilledRectangle, 1, r, b, 0, 0, 3, 3,     0, 0, "rrrr/rbbr/rbbr/rrrr"},
+        {2, T::FilledRectangle, 2, r, b, 3, 3, 0, 0,     0, 0, "bbbb/brrb/brrb/bbbb"},  // roles swap
+        {0, T::FilledRectangle, 1, r, kClear, 1, 1, 4, 3, 1, 1, "rrrr/rTTr/rrrr"},
+        {1, T::FilledRectangle, 1, kClear, b, 1, 1, 4, 3, 1, 1, "TTTT/TbbT/TTTT"},
+        {1, T::Ellipse, 1, r, b,        1, 1, 5, 3,      1, 1, ".rrr./r...r/.rrr."},
+        {0, T::Ellipse, 1, r, b,        8, 8, 14, 14,    8, 8,
+         "..rrr../.r...r./r.....r/r.....r/r.....r/.r...r./..rrr.."},
+        {0, T::SolidEllipse, 2, r, b,   1, 1, 5, 3,      1, 1, ".bbb./bbbbb/.bbb."},
+        {2, T::FilledEllipse, 1, r, b,  14, 14, 8, 8,    8, 8,
+         "..rrr../.rbbbr./rbbbbbr/rbbbbbr/rbbbbbr/.rbbbr./..rrr.."},
+        {1, T::FilledEllipse, 2, kClear, b, 1, 1, 5, 3,  1, 1, ".bbb./bTTTb/.bbb."},
+        {2, T::Ellipse, 1, kClear, b,   1, 1, 5, 3,      1, 1, ".TTT./T...T/.TTT."},
+        // clang-format on
     };
-    // clang-format on
-    for (const ShapeCase& c : cases) {
+    for (const auto& c : cases) {
         SCOPED_TRACE(testing::Message() << "tool " << c.tool << " to " << c.x2 << ", " << c.y2
                                         << " at size index " << c.sizeIndex);
         startWithSize(c.sizeIndex);
-        fillOpaque(kGreen);
+        draw("", 'g');
         editor->colours.value = {c.left, c.right};
         editor->tools.chooseTool(c.tool);
         press(c.button, at(c.x1), at(c.y1));
         move(c.button, at((c.x1 + c.x2) / 2 + 1, 3), at(c.y1 + 1, 3));
         move(c.button, at(c.x2, zoom() - 1), at(c.y2, zoom() - 1));
         release(c.button, at(c.x2, zoom() - 1), at(c.y2, zoom() - 1));
-        expectPicture(c.picture, c.ox, c.oy, kGreen, kRed, kBlue);
+        expectPicture(c.picture, c.ox, c.oy, 'g');
+        expectViewsShowTheDocument();
         EXPECT_TRUE(editor->doc.modified);
         EXPECT_EQ(editor->readoutToXY, "");
     }
 }
 
-// While dragging, only an inverted outline lies on the canvas; each move
-// removes the previous one; mouse-up leaves the canvas as the planes say.
+// While dragging, only the latest inverted outline lies on the canvas;
+// mouse-up leaves the canvas as the planes say.
 TEST_F(ShapeToolsTest, RubberBandIsInvertedOutlineThatErasesItself) {
     editor->tools.chooseTool(T::Rectangle);
     const Plane before = editor->canvas.PicMain;
+    move(0, 5 * 12 + 3, 11 * 12 + 11);
+    EXPECT_EQ(editor->readoutXY, "05, 11");
     press(1, 13, 13);
+    EXPECT_EQ(editor->readoutToXY, "");
     EXPECT_EQ(editor->canvas.PicMain, before) << "nothing drawn at mouse-down";
-
-    move(1, 100, 100); // snaps to the centre of cell 8: 102
-    EXPECT_EQ(editor->canvas.PicMain.pixel(102, 50), before.pixel(102, 50) ^ kWhite);
-    EXPECT_EQ(editor->canvas.PicMain.pixel(13, 102), before.pixel(13, 102) ^ kWhite);
-
-    move(1, 60, 61); // cell 5: 66
-    const Plane& main = editor->canvas.PicMain;
-    EXPECT_EQ(main.pixel(102, 50), before.pixel(102, 50)) << "old band erased";
-    int changed = 0;
-    for (int y = 0; y < main.height(); ++y) {
-        for (int x = 0; x < main.width(); ++x) {
-            if (main.pixel(x, y) == before.pixel(x, y))
-                continue;
-            ++changed;
-            const bool onBand = ((x == 13 || x == 66) && y >= 13 && y <= 66) ||
-                                ((y == 13 || y == 66) && x >= 13 && x <= 66);
-            EXPECT_TRUE(onBand) << x << ", " << y;
-            EXPECT_EQ(main.pixel(x, y), before.pixel(x, y) ^ kWhite);
-        }
+    // Each point snaps to its cell's centre: 102 in cell 8, 66 in cell 5.
+    for (const auto& [x, y, centre] : {std::tuple{100, 100, 102}, {60, 61, 66}}) {
+        move(1, x, y);
+        Plane band = before;
+        drawBox(band, 13, 13, centre, centre, Pen{kBlack, 1, PenMode::Invert});
+        EXPECT_EQ(editor->canvas.PicMain, band) << centre;
     }
-    EXPECT_EQ(changed, 4 * 53);
+    EXPECT_EQ(editor->readoutXY, "05, 05");
     EXPECT_EQ(editor->readoutToXY, "05, 05");
     EXPECT_FALSE(editor->doc.modified) << "the planes wait for mouse-up";
-
     release(1, 60, 61);
-    // The outline lands in cells 1..5; a cell of it is black on the canvas,
-    // a cell inside shows the transparent hatch as before.
-    EXPECT_EQ(main.pixel(5 * 12 + 6, 3 * 12 + 6), kBlack);
-    EXPECT_EQ(main.pixel(2 * 12 + 6, 2 * 12 + 6), before.pixel(2 * 12 + 6, 2 * 12 + 6));
-    EXPECT_EQ(main.pixel(102, 50), before.pixel(102, 50));
-    EXPECT_EQ(editor->canvas.PicIcon.pixel(5, 3), kBlack);
+    expectPicture("kkkkk/k...k/k...k/k...k/kkkkk", 1, 1, 'T');
+    expectViewsShowTheDocument();
 }
 
 // Far past the canvas the figure is clipped to the icon, and stays cheap.
 TEST_F(ShapeToolsTest, DragFarOffTheCanvasIsClipped) {
-    fillOpaque(kGreen);
+    draw("", 'g');
     editor->tools.chooseTool(T::Rectangle);
     press(1, at(30), at(30));
     move(1, 1000000, -1000000);

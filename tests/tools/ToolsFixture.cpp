@@ -1,5 +1,20 @@
 #include "tools/ToolsFixture.h"
 
+#include "canvas/Canvas.h"
+
+#include <utility>
+
+namespace {
+
+struct Look {
+    char letter;
+    Colour colour, mask;
+};
+constexpr Look kLooks[] = {{'k', kBlack, kBlack},   {'g', 0x00FF00, kBlack},
+                           {'r', 0x0000FF, kBlack}, {'b', 0xFF0000, kBlack},
+                           {'i', 0x0000FF, kWhite}, {'T', kBlack, kWhite}};
+
+// "ab/cd" as the rows "ab" and "cd".
 std::vector<std::string> rowsOf(const char* picture) {
     std::vector<std::string> rows(1);
     for (const char* c = picture; *c; ++c)
@@ -10,32 +25,54 @@ std::vector<std::string> rowsOf(const char* picture) {
     return rows;
 }
 
-void ToolsFixture::expectPicture(const char* text, int ox, int oy, Colour background, Colour left,
-                                 Colour right) const {
-    const std::vector<std::string> picture = rowsOf(text);
-    const int n = editor->doc.size;
-    int wrong = 0;
-    for (int y = 0; y < n; ++y) {
-        for (int x = 0; x < n; ++x) {
-            char c = '.';
-            const int row = y - oy, column = x - ox;
-            if (row >= 0 && row < static_cast<int>(picture.size()) && column >= 0 &&
-                column < static_cast<int>(picture[static_cast<std::size_t>(row)].size()))
-                c = picture[static_cast<std::size_t>(row)][static_cast<std::size_t>(column)];
-            std::pair<Colour, Colour> expected{background, kBlack};
-            if (c == 'L')
-                expected = {left, kBlack};
-            else if (c == 'R')
-                expected = {right, kBlack};
-            else if (c == 'T')
-                expected = {kBlack, kWhite};
-            const auto actual = pixelAt(x, y);
-            if (actual != expected && ++wrong <= 8)
-                ADD_FAILURE() << "pixel (" << x << ", " << y << ") '" << c << "': colour "
-                              << hex(actual.first) << " mask " << hex(actual.second)
-                              << ", expected colour " << hex(expected.first) << " mask "
-                              << hex(expected.second);
+} // namespace
+
+void ToolsFixture::draw(const char* picture, char background) {
+    const auto rows = rowsOf(picture);
+    for (int y = 0; y < editor->doc.size; ++y)
+        for (int x = 0; x < editor->doc.size; ++x) {
+            const std::string row = y < static_cast<int>(rows.size()) ? rows[y] : "";
+            const char letter =
+                x < static_cast<int>(row.size()) && row[x] != '.' ? row[x] : background;
+            for (const Look& look : kLooks)
+                if (look.letter == letter) {
+                    editor->doc.PicImage.setPixel(x, y, look.colour);
+                    editor->doc.PicMask.setPixel(x, y, look.mask);
+                }
+        }
+    editor->refresh();
+}
+
+std::string ToolsFixture::picture(int ox, int oy, int w, int h, char background) const {
+    std::string text;
+    for (int y = oy; y < oy + h; ++y) {
+        text += y > oy ? "/" : "";
+        for (int x = ox; x < ox + w; ++x) {
+            char letter = '?';
+            for (const Look& look : kLooks)
+                if (pixelAt(x, y) == std::make_pair(look.colour, look.mask))
+                    letter = look.letter == background ? '.' : look.letter;
+            text += letter;
         }
     }
-    EXPECT_EQ(wrong, 0);
+    return text;
+}
+
+void ToolsFixture::expectPicture(const char* expected, int ox, int oy, char background) const {
+    const auto rows = rowsOf(expected);
+    const int w = static_cast<int>(rows[0].size()), h = static_cast<int>(rows.size());
+    EXPECT_EQ(picture(ox, oy, w, h, background), expected);
+    for (int y = 0; y < editor->doc.size; ++y)
+        for (int x = 0; x < editor->doc.size; ++x) {
+            const bool inside = x >= ox && x < ox + w && y >= oy && y < oy + h;
+            ASSERT_TRUE(inside || picture(x, y, 1, 1, background) == ".") << x << "," << y;
+        }
+}
+
+void ToolsFixture::expectViewsShowTheDocument() const {
+    Canvas redrawn;
+    redrawn.placePreview(editor->doc.size);
+    redrawn.compose(editor->doc);
+    EXPECT_EQ(editor->canvas.PicMain, redrawn.PicMain);
+    EXPECT_EQ(editor->canvas.PicIcon, redrawn.PicIcon);
 }

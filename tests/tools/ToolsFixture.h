@@ -5,12 +5,10 @@
 #include <string>
 #include <vector>
 
-// The editor fixture with the vocabulary of the tool tests: icon pixels
-// turned into canvas points, and whole planes compared against small
-// pictures.
-// "ab/cd" as the rows "ab" and "cd".
-std::vector<std::string> rowsOf(const char* picture);
-
+// The editor fixture with the vocabulary of the tool tests: icon pixels as
+// canvas points, and both planes as small pictures, '/' between rows, in
+// letters: 'k' black, 'g' green, 'r' red, 'b' blue (all opaque), 'i'
+// inverting red, 'T' transparent, '.' the picture's background letter.
 class ToolsFixture : public EditorFixture {
   protected:
     static constexpr Colour kRed = 0x0000FF;
@@ -19,31 +17,24 @@ class ToolsFixture : public EditorFixture {
 
     int zoom() const { return editor->doc.zoom; }
     // A canvas coordinate inside the cell of icon pixel p, offset pixels from
-    // the cell's corner (1 is just inside the grid line, zoom - 1 the far
-    // edge).
+    // the cell's corner (1 is just inside the grid line, zoom - 1 the far edge).
     int at(int p, int offset = 1) const { return p * zoom() + offset; }
-
-    // Every pixel of the document opaque in colour c.
-    void fillOpaque(Colour c) {
-        editor->doc.PicImage.fill(c);
-        editor->doc.PicMask.fill(kBlack);
-        editor->refresh();
-    }
-    void setPixel(int x, int y, Colour colour, Colour mask) {
-        editor->doc.PicImage.setPixel(x, y, colour);
-        editor->doc.PicMask.setPixel(x, y, mask);
-    }
-
     // Click with a button on the cell of icon pixel (x, y).
     void click(int button, int x, int y) {
         press(button, at(x), at(y));
         release(button, at(x), at(y));
     }
+    void setColours(Colour left, Colour right) {
+        editor->colours.value = {static_cast<std::int32_t>(left), static_cast<std::int32_t>(right)};
+    }
 
-    // Compares both planes with a picture ('/' between rows) whose top-left
-    // lies at (ox, oy): '.' stays `background` (opaque), 'L' and 'R' are
-    // opaque in the two button colours, 'T' is the transparent pair. Pixels
-    // outside the picture must keep the background.
-    void expectPicture(const char* picture, int ox, int oy, Colour background, Colour left,
-                       Colour right) const;
+    // Paints the whole icon in `background`, then the picture at (0, 0).
+    void draw(const char* picture, char background);
+    // The w x h block at (ox, oy) in letters.
+    std::string picture(int ox, int oy, int w, int h, char background) const;
+    // The block at (ox, oy) shows the picture and every pixel outside it the
+    // background.
+    void expectPicture(const char* picture, int ox, int oy, char background) const;
+    // Canvas and preview show what a full redraw of the planes would.
+    void expectViewsShowTheDocument() const;
 };
