@@ -56,6 +56,8 @@ void bitBlt(Plane& dst, int dx, int dy, int w, int h, const Plane& src, int sx, 
     const int top = std::max({0, -dy, -sy});
     const int right = std::min({w, dst.width() - dx, src.width() - sx});
     const int bottom = std::min({h, dst.height() - dy, src.height() - sy});
+    if (left >= right || top >= bottom)
+        return;
     for (int j = top; j < bottom; ++j)
         combineRun(dst.row(dy + j) + dx + left, src.row(sy + j) + sx + left, right - left, op);
 }

@@ -47,6 +47,9 @@ TEST(RasterTest, BlockCopyClipsAtEveryEdgeOfBothPlanes) {
         {"source partly before its plane", 0, 0, 3, 3, -1, -1, text({"....", ".ab.", ".de."})},
         {"source partly past its plane", 0, 0, 3, 3, 1, 2, text({"hi..", "....", "...."})},
         {"destination just outside", 4, 0, 3, 3, 0, 0, text({"....", "....", "...."})},
+        {"destination far right", 9, 0, 3, 3, 0, 0, text({"....", "....", "...."})},
+        {"destination far left", -5, 0, 3, 3, 0, 0, text({"....", "....", "...."})},
+        {"source far outside", 0, 0, 3, 3, 7, 7, text({"....", "....", "...."})},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.name);
