@@ -4,7 +4,9 @@
 #include "support/MemoryClipboard.h"
 #include "support/ScriptedDialogs.h"
 
+#include <QApplication>
 #include <QTemporaryDir>
+#include <QWidget>
 
 #include <gtest/gtest.h>
 
@@ -12,28 +14,27 @@
 
 // The real main window on the offscreen platform, asking its questions of
 // scripted dialogs, with an in-memory clipboard and a settings store of its
-// own in a temporary folder.
+// own in a temporary folder. Each test starts it, as the program's load does.
 class MainWindowFixture : public ::testing::Test {
   protected:
-    MainWindowFixture();
-    ~MainWindowFixture() override;
-
-    // The window's load, with the given command line.
-    void start(const QString& commandLine = {});
+    MainWindowFixture() { editor().registry = ModRegistry(folder.filePath("store.ini")); }
+    void SetUp() override { window->startUp({}); }
     // Makes the window the active one, so its shortcuts answer keys.
-    void activate();
-
+    void activate() {
+        window->activateWindow();
+        QApplication::processEvents();
+        ASSERT_TRUE(window->isActiveWindow());
+    }
     Editor& editor() { return window->editor(); }
-    // What the canvas and the preview show on screen.
-    QImage canvasOnScreen() const;
-    QImage previewOnScreen() const;
-    QAction* element(const char* name, int index) const;
 
     QTemporaryDir folder;
     ScriptedDialogs dialogs;
     MemoryClipboard clipboard;
-    std::unique_ptr<frmMain> window;
+    std::unique_ptr<frmMain> window = std::make_unique<frmMain>(&dialogs, &clipboard);
 };
 
-// 0x00RRGGBB of a screen pixel, for comparing with colour values.
-Colour colourAt(const QImage& image, int x, int y);
+// 0x00RRGGBB of a pixel of what a widget shows on screen.
+inline Colour colourAt(QWidget* widget, int x, int y) {
+    const QRgb p = widget->grab().toImage().pixel(x, y);
+    return rgb(qRed(p), qGreen(p), qBlue(p));
+}

@@ -15,84 +15,62 @@ QByteArray twoImages() {
     return icoFile({StoredImage(16, 8, std::vector<Colour>(256, kWhite)), StoredImage(16, 24)});
 }
 
-QByteArray patched(QByteArray bytes, qint64 offset, const QByteArray& value) {
-    return bytes.replace(offset, value.size(), value);
+const char* name(LoadStatus s) {
+    return s == LoadStatus::Ok ? "Ok" : s == LoadStatus::BadDimensions ? "BadSize" : "Failed";
+}
+const char* name(ReadFault f) {
+    const char* names[] = {"", " Unreadable", " TooLarge", " OutOfBounds", " Unsupported"};
+    return names[static_cast<int>(f)];
 }
 
-// The first image's BITMAPINFOHEADER starts after the two entries.
-constexpr qint64 kInfo = 6 + 2 * 16;
+// What each reader makes of the bytes: header test, count, listing / single
+// load / multi load of entry 0 as 8 bits, 16 x 16.
+std::string readings(const QByteArray& bytes) {
+    const IconLoadResult single = IconReader::loadSingleIcon(bytes);
+    return std::string(IconReader::isIconFile(bytes) ? "icon " : "- ") +
+           std::to_string(IconReader::iconCount(bytes)) +
+           (IconReader::listIcons(bytes) ? " listed / " : " - / ") + name(single.status) +
+           name(single.fault) + " / " +
+           name(IconReader::loadMultiIcon(bytes, {0, 8, 16, 16}).status);
+}
 
 TEST(BadInputTest, EveryReaderGivesATypedFailureForMalformedBytes) {
     const QByteArray good = twoImages();
-    const auto u32 = [](qint64 v) { return IcoBuilder().u32(v).bytes; };
-    const LoadStatus Ok = LoadStatus::Ok, Bad = LoadStatus::BadDimensions,
-                     Failed = LoadStatus::Failed;
-    const struct {
-        const char* what;
-        QByteArray bytes;
-        bool isIcon;
-        int count;
-        bool listed;
-        LoadStatus single;
-        ReadFault singleFault;
-        LoadStatus multi; // entry 0, 8 bits, 16 x 16
-    } cases[] = {
-        {"as built", good, true, 2, true, Ok, ReadFault::None, Ok},
-        {"empty", QByteArray(), false, 0, false, Failed, ReadFault::OutOfBounds, Failed},
-        {"3 bytes", good.left(3), false, 0, false, Failed, ReadFault::OutOfBounds, Failed},
-        {"cut in the directory", good.left(20), false, 2, false, Failed, ReadFault::OutOfBounds,
-         Failed},
-        {"cut in the first image's rows", good.left(kInfo + 40 + 1024 + 100), true, 2, false,
-         Failed, ReadFault::OutOfBounds, Failed},
-        {"cut in the last image's mask", good.left(good.size() - 1), true, 2, true, Ok,
-         ReadFault::None, Ok},
-        {"count 0", patched(good, 4, QByteArray("\0\0", 2)), false, 0, false, Ok, ReadFault::None,
-         Failed},
-        {"count -32768", patched(good, 4, QByteArray("\0\x80", 2)), false, 0, false, Ok,
-         ReadFault::None, Failed},
-        {"count 32767 with two entries", patched(good, 4, "\xFF\x7F"), true, 32767, false, Ok,
-         ReadFault::None, Ok},
-        {"offset past the end", patched(good, 18, u32(0x7FFFFFFF)), true, 2, false, Failed,
-         ReadFault::OutOfBounds, Failed},
-        {"offset negative", patched(good, 18, u32(0xFFFFFFF0)), false, 2, false, Failed,
-         ReadFault::OutOfBounds, Failed},
-        {"offset at the last byte", patched(good, 18, u32(good.size() - 1)), true, 2, false, Failed,
-         ReadFault::OutOfBounds, Failed},
-        {"entry width 0", patched(good, 6, QByteArray(1, 0)), false, 2, true, Ok, ReadFault::None,
-         Ok},
-        {"cursor", patched(good, 2, "\2"), false, 2, true, Ok, ReadFault::None, Ok},
-        {"image width 0", patched(good, kInfo + 4, u32(0)), true, 2, true, Bad, ReadFault::None,
-         Ok},
-        {"image height huge", patched(good, kInfo + 8, u32(0x7FFFFFFE)), true, 2, true, Bad,
-         ReadFault::None, Ok},
-        {"header size huge", patched(good, kInfo, u32(0x474E5089)), true, 2, true, Failed,
-         ReadFault::Unsupported, Ok},
-        {"header size 12", patched(good, kInfo, u32(12)), true, 2, true, Failed,
-         ReadFault::Unsupported, Ok},
-        {"compressed", patched(good, kInfo + 16, u32(1)), true, 2, true, Failed,
-         ReadFault::Unsupported, Ok},
-        {"16 bits per pixel", patched(good, kInfo + 14, "\x10"), true, 2, true, Failed,
-         ReadFault::Unsupported, Ok},
+    constexpr qint64 kInfo = 6 + 2 * 16; // the first image's BITMAPINFOHEADER
+    const auto at = [&good](qint64 offset, qint64 value, int length) {
+        return QByteArray(good).replace(offset, length, le(value, length));
     };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.what);
-        EXPECT_EQ(IconReader::isIconFile(c.bytes), c.isIcon);
-        EXPECT_EQ(IconReader::iconCount(c.bytes), c.count);
-        EXPECT_EQ(IconReader::listIcons(c.bytes).has_value(), c.listed);
-        const IconLoadResult single = IconReader::loadSingleIcon(c.bytes);
-        EXPECT_EQ(single.status, c.single);
-        EXPECT_EQ(single.fault, c.singleFault);
-        EXPECT_EQ(IconReader::loadMultiIcon(c.bytes, {0, 8, 16, 16}).status, c.multi);
-    }
+    const std::tuple<const char*, QByteArray, const char*> cases[] = {
+        {"as built", good, "icon 2 listed / Ok / Ok"},
+        {"empty", {}, "- 0 - / Failed OutOfBounds / Failed"},
+        {"3 bytes", good.left(3), "- 0 - / Failed OutOfBounds / Failed"},
+        {"cut in the entry", good.left(21), "- 2 - / Failed OutOfBounds / Failed"},
+        {"cut in the rows", good.left(kInfo + 1164), "icon 2 - / Failed OutOfBounds / Failed"},
+        {"cut in the last mask", good.chopped(1), "icon 2 listed / Ok / Ok"},
+        {"count 0", at(4, 0, 2), "- 0 - / Ok / Failed"},
+        {"count -32768", at(4, -32768, 2), "- 0 - / Ok / Failed"},
+        {"count 32767", at(4, 32767, 2), "icon 32767 - / Ok / Ok"},
+        {"offset past the end", at(18, 0x7FFFFFFF, 4), "icon 2 - / Failed OutOfBounds / Failed"},
+        {"offset negative", at(18, -16, 4), "- 2 - / Failed OutOfBounds / Failed"},
+        {"offset at last byte", at(18, good.size() - 1, 4),
+         "icon 2 - / Failed OutOfBounds / Failed"},
+        {"entry width 0", at(6, 0, 1), "- 2 listed / Ok / Ok"},
+        {"cursor", at(2, 2, 2), "- 2 listed / Ok / Ok"},
+        {"image width 0", at(kInfo + 4, 0, 4), "icon 2 listed / BadSize / Ok"},
+        {"image height huge", at(kInfo + 8, 0x7FFFFFFE, 4), "icon 2 listed / BadSize / Ok"},
+        {"header size huge", at(kInfo, 0x474E5089, 4), "icon 2 listed / Failed Unsupported / Ok"},
+        {"compressed", at(kInfo + 16, 1, 4), "icon 2 listed / Failed Unsupported / Ok"},
+        {"16 bits per pixel", at(kInfo + 14, 16, 2), "icon 2 listed / Failed Unsupported / Ok"},
+    };
+    for (const auto& [what, bytes, expected] : cases)
+        EXPECT_EQ(readings(bytes), expected) << what;
 }
 
 TEST(BadInputTest, ChoicesOutsideTheDirectoryFailTheMultiLoad) {
     const QByteArray good = twoImages();
-    for (const IconDescription& d : {IconDescription{2, 24, 16, 16}, IconDescription{-1, 8, 16, 16},
-                                     IconDescription{32767, 1, 16, 16}}) {
-        SCOPED_TRACE(d.index);
+    for (const IconDescription& d :
+         {IconDescription{2, 24, 16, 16}, IconDescription{-1, 8, 16, 16}}) {
         const IconLoadResult r = IconReader::loadMultiIcon(good, d);
-        EXPECT_EQ(r.status, LoadStatus::Failed);
         EXPECT_EQ(ModFileIO::loadMessage(r, true),
                   "An unexpected error occurred while loading the icon resource.");
     }
@@ -102,47 +80,29 @@ TEST(BadInputTest, ChoicesOutsideTheDirectoryFailTheMultiLoad) {
 
 TEST(BadInputTest, FilesThatCannotBeReadAreRefusedWithoutBlocking) {
     QTemporaryDir dir;
-    ASSERT_TRUE(dir.isValid());
-    const QString fifo = dir.filePath("pipe.ico");
+    const QString fifo = dir.filePath("pipe.ico"), dangling = dir.filePath("dangling.ico");
     ASSERT_EQ(::mkfifo(QFile::encodeName(fifo).constData(), 0600), 0);
-    const QString dangling = dir.filePath("dangling.ico");
     ASSERT_TRUE(QFile::link(dir.filePath("gone.ico"), dangling));
     ASSERT_TRUE(QDir(dir.path()).mkdir("folder.ico"));
-    // Valid at its start, but larger than any icon file.
-    const QString huge = dir.filePath("huge.ico");
-    {
-        QFile f(huge);
-        ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-        f.write(twoImages());
-        ASSERT_TRUE(f.resize(ModFileIO::maxFileBytes() + 1));
-    }
-    const struct {
-        QString path;
-        ReadFault fault;
-        bool headerReadable;
-    } cases[] = {
-        {dir.filePath("missing.ico"), ReadFault::Unreadable, false},
-        {dir.filePath("folder.ico"), ReadFault::Unreadable, false},
-        {fifo, ReadFault::Unreadable, false},
-        {dangling, ReadFault::Unreadable, false},
-        {"/dev/zero", ReadFault::Unreadable, false},
-        {QString(), ReadFault::Unreadable, false},
-        {huge, ReadFault::TooLarge, true},
-    };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.path.toStdString());
-        EXPECT_EQ(ModFileIO::isIconFile(c.path), c.headerReadable);
-        EXPECT_EQ(ModFileIO::iconCount(c.path), c.headerReadable ? 2 : 0);
-        EXPECT_FALSE(ModFileIO::listIcons(c.path));
-        const IconLoadResult single = ModFileIO::loadSingleIcon(c.path);
-        EXPECT_EQ(single.status, LoadStatus::Failed);
-        EXPECT_EQ(single.fault, c.fault);
+    QFile huge(dir.filePath("huge.ico")); // a valid start, but larger than any icon file
+    ASSERT_TRUE(huge.open(QIODevice::WriteOnly));
+    huge.write(twoImages());
+    ASSERT_TRUE(huge.resize(ModFileIO::maxFileBytes() + 1));
+    huge.close();
+    for (const QString& path :
+         {dir.filePath("missing.ico"), dir.filePath("folder.ico"), fifo, dangling,
+          QStringLiteral("/dev/zero"), QString(), huge.fileName()}) {
+        SCOPED_TRACE(path.toStdString());
+        const ReadFault fault =
+            path == huge.fileName() ? ReadFault::TooLarge : ReadFault::Unreadable;
+        EXPECT_EQ(ModFileIO::isIconFile(path), fault == ReadFault::TooLarge);
+        EXPECT_EQ(ModFileIO::iconCount(path), fault == ReadFault::TooLarge ? 2 : 0);
+        EXPECT_FALSE(ModFileIO::listIcons(path));
+        const IconLoadResult single = ModFileIO::loadSingleIcon(path);
+        EXPECT_EQ(single.fault, fault);
         EXPECT_EQ(ModFileIO::loadMessage(single, false),
                   "An unexpected error occurred while loading the icon.");
-        EXPECT_EQ(ModFileIO::loadMultiIcon(c.path, {0, 8, 16, 16}).fault, c.fault);
-        ReadFault fault = ReadFault::None;
-        EXPECT_FALSE(ModFileIO::readFile(c.path, &fault));
-        EXPECT_EQ(fault, c.fault);
+        EXPECT_EQ(ModFileIO::loadMultiIcon(path, {0, 8, 16, 16}).fault, fault);
     }
 }
 

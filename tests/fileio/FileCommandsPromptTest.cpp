@@ -4,51 +4,41 @@ namespace {
 
 class FileCommandsPromptTest : public FileCommandsFixture {
   protected:
-    void SetUp() override {
-        iconFile = writeFile("star.ico", icoFile({fortyColourIcon().stored}));
-        edit(8, 8, rgb(50, 60, 70));
-    }
-    QString iconFile;
+    void SetUp() override { edit(8, 8, rgb(50, 60, 70)); }
+    const TestIcon star{16, 8};
+    const QString starFile = writeFile("star.ico", star.file());
 };
 
-TEST_F(FileCommandsPromptTest, CancelStopsOpenNewAndClosingWithEverythingAsItWas) {
+TEST_F(FileCommandsPromptTest, CancelStopsOpenNewCloseAndDropsWithEverythingAsItWas) {
     const Plane image = editor->doc.PicImage;
     const std::string state = documentState();
-    const std::size_t history = editor->undoRedo.UndoStack.size();
-
     editor->files.open();
     editor->newIcon(2);
     EXPECT_FALSE(editor->shutDown());
-    editor->dropFiles({iconFile});
-
-    EXPECT_EQ(dialogs.promptTexts,
-              std::vector<QString>(4, QStringLiteral("Save changes to Untitled.ico?")));
+    editor->dropFiles({starFile});
+    EXPECT_EQ(dialogs.promptTexts, std::vector<QString>(4, "Save changes to Untitled.ico?"));
     EXPECT_TRUE(dialogs.fileModes.empty());
     EXPECT_EQ(documentState(), state);
     EXPECT_EQ(editor->doc.PicImage, image);
-    EXPECT_EQ(editor->doc.size, 32);
-    EXPECT_EQ(editor->undoRedo.UndoStack.size(), history);
-    EXPECT_TRUE(dialogs.messages.empty());
+    EXPECT_EQ(editor->undoRedo.UndoStack.size(), 2u);
 }
 
-TEST_F(FileCommandsPromptTest, NoDropsTheChangesAndTheOpenGoesOn) {
+TEST_F(FileCommandsPromptTest, NoDropsTheChangesAndYesSavesUnderTheTitleOrThroughSaveAs) {
     dialogs.prompts.push_back(PromptAnswer::No);
-    openThroughDialog(iconFile);
-    EXPECT_EQ(editor->windowTitle, "Brevik - star.ico");
-    expectPlanes(fortyColourIcon().mask, fortyColourIcon().image);
-    EXPECT_FALSE(editor->doc.modified);
-}
+    openThroughDialog(starFile);
+    expectDocument(star);
+    EXPECT_EQ(documentState(), stateOf(starFile));
 
-TEST_F(FileCommandsPromptTest, YesSavesUnderTheFileTitleOrThroughSaveAs) {
-    // Untitled: Yes asks for a name first, then the open goes on.
-    const QString saved = path("first.ico");
+    // Untitled: Yes asks for a name first, then the command goes on.
+    editor->newIcon(1);
+    edit(1, 1, rgb(9, 9, 9));
     dialogs.prompts.push_back(PromptAnswer::Yes);
-    chooseNext(saved);
-    openThroughDialog(iconFile);
+    chooseNext(path("first.ico"));
+    openThroughDialog(starFile);
     EXPECT_EQ(dialogs.fileModes,
-              (std::vector<FileDialogMode>{FileDialogMode::SaveAs, FileDialogMode::Open}));
-    EXPECT_EQ(editor->windowTitle, "Brevik - star.ico");
-    EXPECT_EQ(editor->recent.paths(), (QStringList{iconFile, saved}));
+              (std::vector<FileDialogMode>{FileDialogMode::Open, FileDialogMode::SaveAs,
+                                           FileDialogMode::Open}));
+    EXPECT_EQ(editor->recent.paths(), (QStringList{starFile, path("first.ico")}));
 
     // With a title: the prompt names it and Yes writes it in place.
     edit(2, 3, rgb(11, 12, 13));
@@ -56,36 +46,30 @@ TEST_F(FileCommandsPromptTest, YesSavesUnderTheFileTitleOrThroughSaveAs) {
     dialogs.prompts.push_back(PromptAnswer::Yes);
     editor->newIcon(0);
     EXPECT_EQ(dialogs.promptTexts.back(), "Save changes to star.ico?");
-    EXPECT_EQ(editor->doc.size, 16);
     EXPECT_EQ(editor->windowTitle, "Brevik - Untitled");
-    openThroughDialog(iconFile);
+    openThroughDialog(starFile);
     EXPECT_EQ(editor->doc.PicImage, edited);
-    EXPECT_TRUE(dialogs.messages.empty());
+    EXPECT_EQ(shown(), "");
 }
 
-TEST_F(FileCommandsPromptTest, YesWhoseSaveAsIsCancelledAnswersTheLastSaveResult) {
-    dialogs.prompts.push_back(PromptAnswer::Yes);
-    editor->files.open();
-    EXPECT_EQ(dialogs.fileModes, std::vector<FileDialogMode>{FileDialogMode::SaveAs});
-    EXPECT_TRUE(editor->doc.modified);
-
-    // After a successful save elsewhere the same cancelled Save As lets the
-    // open go on, and the changes are dropped.
-    editor->files.saveSucceeded = true;
-    dialogs.prompts.push_back(PromptAnswer::Yes);
-    dialogs.files.push_back(std::nullopt);
-    openThroughDialog(iconFile);
-    EXPECT_EQ(editor->windowTitle, "Brevik - star.ico");
-    EXPECT_FALSE(editor->doc.modified);
-}
-
-TEST_F(FileCommandsPromptTest, AFailedSaveFromThePromptStopsTheCommand) {
+TEST_F(FileCommandsPromptTest, YesGoesOnOnlyWhenTheSaveOrTheLastOneSucceeded) {
     dialogs.prompts.push_back(PromptAnswer::Yes);
     chooseNext(path("missing/lost.ico"));
     editor->newIcon(0);
-    expectMessages({brevikError("Unable to save the file lost.ico")});
+    EXPECT_EQ(shown(), brevikError("Unable to save the file lost.ico"));
     EXPECT_EQ(editor->doc.size, 32);
     EXPECT_TRUE(editor->doc.modified);
+
+    // A cancelled Save As answers the last save's result: a failure stops
+    // the open, a success elsewhere lets it go on and drops the changes.
+    dialogs.prompts.push_back(PromptAnswer::Yes);
+    editor->files.open();
+    EXPECT_EQ(dialogs.fileModes, std::vector<FileDialogMode>(2, FileDialogMode::SaveAs));
+    editor->files.saveSucceeded = true;
+    dialogs.prompts.push_back(PromptAnswer::Yes);
+    dialogs.files.push_back(std::nullopt);
+    openThroughDialog(starFile);
+    EXPECT_EQ(documentState(), stateOf(starFile));
 }
 
 } // namespace

@@ -1,88 +1,31 @@
 #include "IcoBuilder.h"
 
-IcoBuilder& IcoBuilder::u8(int v) {
-    bytes.append(static_cast<char>(v & 0xFF));
-    return *this;
-}
-IcoBuilder& IcoBuilder::u16(int v) {
-    return u8(v).u8(v >> 8);
-}
-IcoBuilder& IcoBuilder::u32(qint64 v) {
-    return u16(static_cast<int>(v & 0xFFFF)).u16(static_cast<int>((v >> 16) & 0xFFFF));
-}
-
-IcoBuilder& IcoBuilder::header(int reserved, int type, int count) {
-    return u16(reserved).u16(type).u16(count);
-}
+#include <algorithm>
 
 IcoBuilder& IcoBuilder::entry(const Entry& e) {
-    return u8(e.width)
-        .u8(e.height)
-        .u8(e.colourCount)
-        .u8(e.reserved)
-        .u16(e.planes)
-        .u16(e.bitCount)
-        .u32(e.bytesInRes)
-        .u32(e.imageOffset);
+    u8(e.width).u8(e.height).u8(e.colourCount).u8(e.reserved).u16(e.planes).u16(e.bitCount);
+    return u32(e.bytesInRes).u32(e.imageOffset);
 }
 
-IcoBuilder& IcoBuilder::info(const Info& i) {
-    return u32(i.size)
-        .u32(i.width)
-        .u32(i.height)
-        .u16(1)
-        .u16(i.bitCount)
-        .u32(i.compression)
-        .u32(0)
-        .u32(0)
-        .u32(0)
-        .u32(i.coloursUsed)
-        .u32(0);
-}
-
-IcoBuilder& IcoBuilder::table(const std::vector<Colour>& colours) {
-    for (Colour c : colours)
-        u8(blueOf(c)).u8(greenOf(c)).u8(redOf(c)).u8(0);
-    return *this;
-}
-
-IcoBuilder& IcoBuilder::fill(qint64 count, int byte) {
-    bytes.append(QByteArray(count, static_cast<char>(byte)));
-    return *this;
-}
-
-IcoBuilder& IcoBuilder::append(const QByteArray& more) {
-    bytes.append(more);
-    return *this;
+IcoBuilder& IcoBuilder::info(qint64 width, qint64 height, int bitCount, qint64 imageSize) {
+    u32(40).u32(width).u32(height).u16(1).u16(bitCount).u32(0).u32(imageSize);
+    return u32(0).u32(0).u32(0).u32(0);
 }
 
 StoredImage::StoredImage(int size_, int depth_, std::vector<Colour> table_)
-    : size(size_), depth(depth_), table(std::move(table_)) {
-    colourRows = QByteArray(colourRowBytes() * size, '\0');
-    maskRows = QByteArray(maskRowBytes() * size, '\0');
-}
-
-qint64 StoredImage::colourRowBytes() const {
-    return (size * depth + 31) / 32 * 4;
-}
-qint64 StoredImage::maskRowBytes() const {
-    return (size + 31) / 32 * 4;
-}
+    : size(size_), depth(depth_), table(std::move(table_)),
+      colourRows(colourRowBytes() * size, '\0'), maskRows(maskRowBytes() * size, '\0') {}
 
 void StoredImage::setIndex(int x, int y, int index) {
-    const qint64 row = (size - 1 - y) * colourRowBytes();
     const qint64 bit = static_cast<qint64>(x) * depth; // from the row's first bit
-    char& byte = colourRows[row + bit / 8];
-    const int shift = 8 - depth - static_cast<int>(bit % 8);
-    const int bits = (1 << depth) - 1;
+    char& byte = colourRows[(size - 1 - y) * colourRowBytes() + bit / 8];
+    const int shift = 8 - depth - static_cast<int>(bit % 8), bits = (1 << depth) - 1;
     byte = static_cast<char>((byte & ~(bits << shift)) | (index & bits) << shift);
 }
 
 void StoredImage::setColour(int x, int y, Colour c) {
     const qint64 at = (size - 1 - y) * colourRowBytes() + static_cast<qint64>(x) * (depth / 8);
-    colourRows[at] = static_cast<char>(blueOf(c));
-    colourRows[at + 1] = static_cast<char>(greenOf(c));
-    colourRows[at + 2] = static_cast<char>(redOf(c));
+    colourRows.replace(at, 3, IcoBuilder().u8(blueOf(c)).u8(greenOf(c)).u8(redOf(c)).bytes);
 }
 
 void StoredImage::setTransparent(int x, int y) {
@@ -92,21 +35,54 @@ void StoredImage::setTransparent(int x, int y) {
 
 QByteArray StoredImage::data() const {
     IcoBuilder b;
-    b.info({40, size, 2 * size, depth, 0, 0}).table(table);
+    b.info(size, 2 * size, depth);
+    for (Colour c : table)
+        b.u8(blueOf(c)).u8(greenOf(c)).u8(redOf(c)).u8(0);
     return b.bytes + colourRows + maskRows;
 }
 
 QByteArray icoFile(const std::vector<StoredImage>& images, int type) {
     IcoBuilder b;
-    const int count = static_cast<int>(images.size());
-    b.header(0, type, count);
-    qint64 offset = 6 + 16 * count;
+    b.header(type, static_cast<int>(images.size()));
+    qint64 offset = 6 + 16 * static_cast<qint64>(images.size());
     for (const StoredImage& image : images) {
         const qint64 length = image.data().size();
         b.entry({image.size, image.size, 0, 0, 1, image.depth, length, offset});
         offset += length;
     }
     for (const StoredImage& image : images)
-        b.append(image.data());
+        b.bytes.append(image.data());
     return b.bytes;
+}
+
+TestIcon::TestIcon(int size, int depth)
+    : stored(size, depth), mask(size, size, kBlack), image(size, size) {
+    const int entries = depth < 24 ? 1 << depth : 0;
+    for (int i = 0; i < entries; ++i)
+        stored.table.push_back(i == 0             ? kBlack
+                               : i == entries - 1 ? kWhite
+                                                  : rgb(i, 255 - i, 7 * i % 256));
+    for (int y = 0; y < size; ++y)
+        for (int x = 0; x < size; ++x)
+            set(x, y,
+                entries ? stored.table[(x + 3 * y) % std::min(entries, 40)]
+                        : rgb(5 * x + 3, 5 * y + 5, 100 + x + y));
+    set(0, 0, kBlack, true);
+    set(size - 1, 0, kBlack, true);
+    set(5, 0, entries ? stored.table[entries / 2] : rgb(200, 10, 90), true);
+    set(6, 0, kWhite, true);
+}
+
+void TestIcon::set(int x, int y, Colour c, bool masked) {
+    image.setPixel(x, y, c);
+    if (stored.depth == 24)
+        stored.setColour(x, y, c);
+    else
+        stored.setIndex(x, y,
+                        static_cast<int>(std::find(stored.table.begin(), stored.table.end(), c) -
+                                         stored.table.begin()));
+    if (masked) {
+        stored.setTransparent(x, y);
+        mask.setPixel(x, y, kWhite);
+    }
 }

@@ -1,53 +1,48 @@
 #pragma once
 
-#include "platform/Colour.h"
+#include "platform/Plane.h"
 
 #include <QByteArray>
 #include <vector>
 
 // Assembles icon files field by field, so that the reader is tested on files
 // this program did not write, malformed ones included.
-class IcoBuilder {
-  public:
+struct IcoBuilder {
     struct Entry {
         int width = 16, height = 16, colourCount = 0, reserved = 0, planes = 1, bitCount = 0;
         qint64 bytesInRes = 0, imageOffset = 0;
     };
-    struct Info {
-        qint64 size = 40, width = 16, height = 32;
-        int bitCount = 8;
-        qint64 compression = 0, coloursUsed = 0;
-    };
 
-    IcoBuilder& u8(int v);
-    IcoBuilder& u16(int v);
-    IcoBuilder& u32(qint64 v);
-    IcoBuilder& header(int reserved, int type, int count);
+    IcoBuilder& u8(int v) {
+        bytes.append(static_cast<char>(v & 0xFF));
+        return *this;
+    }
+    IcoBuilder& u16(int v) { return u8(v).u8(v >> 8); }
+    IcoBuilder& u32(qint64 v) { return u16(static_cast<int>(v)).u16(static_cast<int>(v >> 16)); }
+    IcoBuilder& header(int type, int count) { return u16(0).u16(type).u16(count); }
     IcoBuilder& entry(const Entry& e);
-    IcoBuilder& info(const Info& i);
-    // Blue, green, red, 0 per colour.
-    IcoBuilder& table(const std::vector<Colour>& colours);
-    IcoBuilder& fill(qint64 count, int byte);
-    IcoBuilder& append(const QByteArray& more);
+    // A BITMAPINFOHEADER of 40 bytes with every other field 0.
+    IcoBuilder& info(qint64 width, qint64 height, int bitCount, qint64 imageSize = 0);
 
     QByteArray bytes;
 };
 
+// Little-endian bytes of a value, for patching a field of a file.
+inline QByteArray le(qint64 value, int length) {
+    return IcoBuilder().u32(value).bytes.left(length);
+}
+
 // One square image as stored in a file, its rows bottom-up and zeroed until
-// set; the colour rows hold table indices below 24 bits.
-class StoredImage {
-  public:
+// set; below 24 bits the colour rows hold indices into the table.
+struct StoredImage {
     StoredImage(int size, int depth, std::vector<Colour> table = {});
 
-    // Pixel (x, y) counted from the top, as the document sees it.
+    // (x, y) counted from the top, as the document sees it.
     void setIndex(int x, int y, int index);
     void setColour(int x, int y, Colour c);
     void setTransparent(int x, int y);
-
-    // Byte offsets of a stored row: row 0 is the bottom one.
-    qint64 colourRowBytes() const;
-    qint64 maskRowBytes() const;
-
+    qint64 colourRowBytes() const { return (size * depth + 31) / 32 * 4; }
+    qint64 maskRowBytes() const { return (size + 31) / 32 * 4; }
     // BITMAPINFOHEADER, table, colour rows, mask rows.
     QByteArray data() const;
 
@@ -58,3 +53,18 @@ class StoredImage {
 
 // A whole file of the images with a correct directory; type 1 is an icon.
 QByteArray icoFile(const std::vector<StoredImage>& images, int type = 1);
+
+// A stored image and the planes a document must hold once it is opened,
+// written side by side. Below 24 bits the table holds distinct colours, black
+// first and white last; (0, 0) and (size - 1, 0) are transparent, (5, 0) and
+// (6, 0) inverting: a colour, and white, on a white mask.
+struct TestIcon {
+    TestIcon(int size, int depth);
+    QByteArray file(int type = 1) const { return icoFile({stored}, type); }
+
+    StoredImage stored;
+    Plane mask, image;
+
+  private:
+    void set(int x, int y, Colour c, bool masked = false);
+};
