@@ -16,8 +16,7 @@ std::function<double()> clockSeededRandom() {
 
 } // namespace
 
-Editor::Editor(Services s)
-    : services(std::move(s)), tools(*this), selection(*this), files(*this) {
+Editor::Editor(Services s) : services(std::move(s)), tools(*this), selection(*this), files(*this) {
     if (!services.random)
         services.random = clockSeededRandom();
 }
@@ -75,7 +74,9 @@ void Editor::newIcon(int sizeIndex) {
     doc.modified = false;
 }
 
-void Editor::refresh() { canvas.refreshFromPlanes(doc); }
+void Editor::refresh() {
+    canvas.refreshFromPlanes(doc);
+}
 
 void Editor::recordEdit() {
     undoRedo.ClearRedo();
@@ -136,7 +137,9 @@ void Editor::commitSelection() {
         selection.CommitSelection();
 }
 
-bool Editor::offerToSave() { return files.saveChangesPrompt(); }
+bool Editor::offerToSave() {
+    return files.saveChangesPrompt();
+}
 
 void Editor::commandLineOpen(const QString& commandLine) {
     if (commandLine.isEmpty())

@@ -3,9 +3,9 @@
 #include "canvas/Canvas.h"
 #include "document/IconDocument.h"
 #include "editing/ModUndoRedo.h"
-#include "platform/Services.h"
 #include "editing/Selection.h"
 #include "fileio/FileCommands.h"
+#include "platform/Services.h"
 #include "settings/ModRecent.h"
 #include "settings/ModRegistry.h"
 #include "tools/ButtonColours.h"
@@ -18,7 +18,7 @@
 // (frmMain) forwards menu, mouse and key events here and puts the planes this
 // composes on screen. Tests drive it directly.
 class Editor {
-public:
+  public:
     explicit Editor(Services services);
 
     // Start-up as far as the window's look is not concerned: the new 32 x 32

@@ -27,8 +27,8 @@ void Canvas::drawBackground(int zoom) {
         const Plane& pattern = Resources::transparentPattern();
         for (int j = 0; j * zoom < kCanvasSize; ++j)
             for (int i = 0; i * zoom < kCanvasSize; ++i)
-                bitBlt(background_, 1 + i * zoom, 1 + j * zoom, zoom - 2, zoom - 2, pattern, 0,
-                       0, RasterOp::Copy);
+                bitBlt(background_, 1 + i * zoom, 1 + j * zoom, zoom - 2, zoom - 2, pattern, 0, 0,
+                       RasterOp::Copy);
         backgroundZoom_ = zoom;
     }
     PicMainCopy = background_;
@@ -51,8 +51,7 @@ void Canvas::present(int zoom) {
 void Canvas::compose(const IconDocument& doc) {
     const int n = doc.size;
     drawBackground(doc.zoom);
-    stretchBlt(PicMainCopy, 0, 0, kCanvasSize, kCanvasSize, doc.PicMask, 0, 0, n, n,
-               RasterOp::And);
+    stretchBlt(PicMainCopy, 0, 0, kCanvasSize, kCanvasSize, doc.PicMask, 0, 0, n, n, RasterOp::And);
     stretchBlt(PicMainCopy, 0, 0, kCanvasSize, kCanvasSize, doc.PicImage, 0, 0, n, n,
                RasterOp::Xor);
     present(doc.zoom);

@@ -10,7 +10,7 @@ class IconDocument;
 // through the 384 x 384 back buffer PicMainCopy) and the actual-size preview
 // PicIcon. The widgets only put these planes on screen.
 class Canvas {
-public:
+  public:
     static constexpr int kCanvasSize = 384;
     static constexpr int kPictureSize = 385;
     // The point of the window's client area the preview is centred on.
@@ -62,7 +62,7 @@ public:
     int previewLeft = 0;
     int previewTop = 0;
 
-private:
+  private:
     // The hatched empty canvas of the last zoom drawn; every refresh starts
     // from it, so it is built once per zoom rather than cell by cell.
     Plane background_;

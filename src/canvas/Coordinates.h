@@ -4,10 +4,18 @@
 
 // Canvas pixels to icon pixels; all divisions truncate.
 namespace Coordinates {
-inline int iconPixel(int v, int zoom) { return v / zoom; }
-inline int cellCorner(int v, int zoom) { return v / zoom * zoom; }
-inline int cellCentre(int v, int zoom) { return v / zoom * zoom + zoom / 2; }
-inline int clampToCanvas(int v) { return v < 0 ? 0 : (v > 384 ? 384 : v); }
+inline int iconPixel(int v, int zoom) {
+    return v / zoom;
+}
+inline int cellCorner(int v, int zoom) {
+    return v / zoom * zoom;
+}
+inline int cellCentre(int v, int zoom) {
+    return v / zoom * zoom + zoom / 2;
+}
+inline int clampToCanvas(int v) {
+    return v < 0 ? 0 : (v > 384 ? 384 : v);
+}
 
 // "05" for 5: at least two digits.
 QString twoDigits(int value);

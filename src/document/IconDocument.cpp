@@ -2,7 +2,9 @@
 
 #include "platform/Shapes.h"
 
-IconDocument::IconDocument() { resize(1); }
+IconDocument::IconDocument() {
+    resize(1);
+}
 
 int IconDocument::sizeForIndex(int sizeIndex) {
     switch (sizeIndex) {

@@ -21,11 +21,11 @@ struct ColourWork {
 //   mask white, colour 0  -> transparent (the "transparent pair")
 //   mask white, colour C  -> inverting, shows background XOR C
 class IconDocument {
-public:
+  public:
     IconDocument();
 
-    static int sizeForIndex(int sizeIndex);  // 0, 1, 2 -> 16, 32, 48
-    static int indexForSize(int size);       // 16, 32, 48 -> 0, 1, 2; -1 otherwise
+    static int sizeForIndex(int sizeIndex); // 0, 1, 2 -> 16, 32, 48
+    static int indexForSize(int size);      // 16, 32, 48 -> 0, 1, 2; -1 otherwise
 
     // Gives the document the size of sizeIndex and makes every pixel
     // transparent (colour black, mask white). The selection planes and the

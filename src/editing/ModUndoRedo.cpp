@@ -18,7 +18,9 @@ void ModUndoRedo::Push(IconDocument& doc) {
     UndoStack.push_back({QString::number(UndoCounter), doc.PicCol});
 }
 
-void ModUndoRedo::ClearRedo() { RedoStack.clear(); }
+void ModUndoRedo::ClearRedo() {
+    RedoStack.clear();
+}
 
 // Undo and Redo skip what cannot be done (the keyboard shortcut works while
 // the menu item is greyed) instead of reporting it.

@@ -14,7 +14,7 @@ class IconDocument;
 // stands. A snapshot is one picture twice as wide as the icon: the mask on
 // the left, the colour plane on the right.
 class ModUndoRedo {
-public:
+  public:
     struct Entry {
         QString key; // the push counter at the time; only makes entries unique
         Plane snapshot;
@@ -39,6 +39,6 @@ public:
     std::vector<Entry> RedoStack;
     int UndoCounter = 0;
 
-private:
+  private:
     static void restore(IconDocument& doc, const Plane& snapshot);
 };

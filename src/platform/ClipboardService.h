@@ -4,7 +4,7 @@
 
 // The system clipboard's bitmap format.
 class ClipboardService {
-public:
+  public:
     virtual ~ClipboardService() = default;
     // Whether the clipboard offers a picture.
     virtual bool hasImage() const = 0;

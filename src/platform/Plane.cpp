@@ -2,7 +2,9 @@
 
 #include <algorithm>
 
-Plane::Plane(int width, int height, Colour fill) { reset(width, height, fill); }
+Plane::Plane(int width, int height, Colour fill) {
+    reset(width, height, fill);
+}
 
 Colour Plane::pixel(int x, int y) const {
     if (!contains(x, y))
@@ -15,7 +17,9 @@ void Plane::setPixel(int x, int y, Colour c) {
         pixels_[static_cast<std::size_t>(y) * width_ + x] = c;
 }
 
-void Plane::fill(Colour c) { std::fill(pixels_.begin(), pixels_.end(), c); }
+void Plane::fill(Colour c) {
+    std::fill(pixels_.begin(), pixels_.end(), c);
+}
 
 void Plane::reset(int width, int height, Colour fill) {
     width_ = std::max(width, 0);

@@ -7,7 +7,7 @@
 // A rectangle of colour values: the stand-in for a memory bitmap selected into
 // a drawing context. Every picture the program draws into is one of these.
 class Plane {
-public:
+  public:
     Plane() = default;
     Plane(int width, int height, Colour fill = kBlack);
 
@@ -31,7 +31,7 @@ public:
 
     bool operator==(const Plane& other) const = default;
 
-private:
+  private:
     int width_ = 0;
     int height_ = 0;
     std::vector<Colour> pixels_;

@@ -20,7 +20,9 @@ namespace {
 
 // Where each step of a span lands: origin + i for a positive extent,
 // origin - i for a negative one.
-int spanPosition(int origin, int extent, int i) { return extent < 0 ? origin - i : origin + i; }
+int spanPosition(int origin, int extent, int i) {
+    return extent < 0 ? origin - i : origin + i;
+}
 
 // Combines one run of pixels; the operation is chosen once per run rather than
 // once per pixel, which keeps a full canvas redraw well inside a frame.

@@ -27,7 +27,7 @@ struct HotSpot {
 // Every modal question the program asks goes through here. The program
 // answers with real Qt dialogs; tests answer with a scripted double.
 class UserDialogs {
-public:
+  public:
     virtual ~UserDialogs() = default;
 
     virtual void showMessage(const QString& title, const QString& text, MessageIcon icon) = 0;

@@ -16,7 +16,9 @@ std::function<double()> fixedRandom() {
 
 } // namespace
 
-EditorFixture::EditorFixture() { startWithSize(1); }
+EditorFixture::EditorFixture() {
+    startWithSize(1);
+}
 
 void EditorFixture::startWithSize(int sizeIndex) {
     Services services;
@@ -30,9 +32,15 @@ void EditorFixture::startWithSize(int sizeIndex) {
         editor->newIcon(sizeIndex);
 }
 
-void EditorFixture::press(int button, int x, int y) { editor->tools.mouseDown(button, x, y); }
-void EditorFixture::move(int button, int x, int y) { editor->tools.mouseMove(button, x, y); }
-void EditorFixture::release(int button, int x, int y) { editor->tools.mouseUp(button, x, y); }
+void EditorFixture::press(int button, int x, int y) {
+    editor->tools.mouseDown(button, x, y);
+}
+void EditorFixture::move(int button, int x, int y) {
+    editor->tools.mouseMove(button, x, y);
+}
+void EditorFixture::release(int button, int x, int y) {
+    editor->tools.mouseUp(button, x, y);
+}
 
 void EditorFixture::drag(int button, std::initializer_list<std::pair<int, int>> points) {
     auto it = points.begin();

@@ -13,7 +13,7 @@
 // An editor wired to scripted dialogs, an in-memory clipboard and a fixed
 // random sequence, started as the program starts: a new 32 x 32 icon.
 class EditorFixture : public ::testing::Test {
-protected:
+  protected:
     EditorFixture();
 
     // A fresh editor of the given size index (0, 1, 2).

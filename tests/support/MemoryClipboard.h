@@ -4,7 +4,7 @@
 
 // A clipboard that lives in the test.
 class MemoryClipboard : public ClipboardService {
-public:
+  public:
     bool hasImage() const override { return !picture.isEmpty(); }
     Plane image() const override { return picture; }
     void setImage(const Plane& p) override;

@@ -8,7 +8,7 @@
 // Answers the editor's questions from a script and records every one asked.
 // A question with no scripted answer cancels, so a test never hangs on one.
 class ScriptedDialogs : public UserDialogs {
-public:
+  public:
     struct Message {
         QString title;
         QString text;
