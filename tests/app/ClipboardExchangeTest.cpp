@@ -1,0 +1,105 @@
+#include "app/frmMain.h"
+#include "support/ScriptedDialogs.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QImage>
+#include <QMimeData>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+// The main window on the system clipboard of the offscreen platform, as
+// another program would see it: pictures go in and come out as QImages.
+class ClipboardExchangeTest : public ::testing::Test {
+  protected:
+    ClipboardExchangeTest() {
+        window.editor().registry = ModRegistry(folder.filePath("store.ini"));
+        window.startUp({});
+        window.activateWindow();
+        QApplication::processEvents();
+        QApplication::clipboard()->clear();
+    }
+
+    void keys(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::ControlModifier) {
+        QTest::keyClick(&window, key, modifiers);
+    }
+    Editor& editor() { return window.editor(); }
+
+    QTemporaryDir folder;
+    ScriptedDialogs dialogs;
+    frmMain window{&dialogs};
+};
+
+TEST_F(ClipboardExchangeTest, CopiedIconReachesOtherProgramsWithTransparentPixelsWhite) {
+    editor().doc.PicImage.setPixel(3, 2, rgb(200, 10, 20));
+    editor().doc.PicMask.setPixel(3, 2, kBlack);
+    editor().doc.PicImage.setPixel(4, 2, rgb(0, 0, 255)); // inverting: white XOR blue
+    keys(Qt::Key_T);
+    keys(Qt::Key_C);
+
+    const QImage copied = QApplication::clipboard()->image();
+    ASSERT_EQ(copied.size(), QSize(32, 32));
+    EXPECT_EQ(copied.pixel(3, 2), qRgb(200, 10, 20));
+    EXPECT_EQ(copied.pixel(4, 2), qRgb(255, 255, 0));
+    EXPECT_EQ(copied.pixel(0, 0), qRgb(255, 255, 255));
+    EXPECT_EQ(copied.pixel(31, 31), qRgb(255, 255, 255));
+}
+
+TEST_F(ClipboardExchangeTest, PictureFromAnotherProgramPastesFloatingWithWhiteTransparent) {
+    QImage picture(20, 10, QImage::Format_RGB32);
+    picture.fill(Qt::white);
+    for (int y = 2; y < 8; ++y)
+        for (int x = 2; x < 18; ++x)
+            picture.setPixel(x, y, qRgb(0, 0, 255));
+    QApplication::clipboard()->setImage(picture);
+    ASSERT_TRUE(editor().editActionEnabled(5));
+
+    keys(Qt::Key_V);
+    ASSERT_TRUE(editor().selection.SelFloating);
+    EXPECT_EQ(editor().tools.currentTool, DrawingTools::Select);
+    const Selection::Rect r = editor().selection.SelRect;
+    EXPECT_EQ(std::tuple(r.Left, r.Top, r.Right, r.Bottom), std::tuple(0, 0, 240, 120));
+    EXPECT_EQ(dialogs.pasteDialogs, 0);
+
+    keys(Qt::Key_K); // Deselect stamps it into the icon and records it
+    const IconDocument& doc = editor().doc;
+    EXPECT_TRUE(doc.isTransparent(0, 0));
+    EXPECT_TRUE(doc.isTransparent(19, 9));
+    EXPECT_EQ(doc.PicImage.pixel(2, 2), rgb(0, 0, 255));
+    EXPECT_EQ(doc.PicMask.pixel(2, 2), kBlack);
+    EXPECT_EQ(editor().undoRedo.UndoStack.size(), 2u);
+
+    keys(Qt::Key_Z);
+    EXPECT_TRUE(editor().doc.isTransparent(2, 2));
+    EXPECT_EQ(editor().undoRedo.UndoStack.size(), 1u);
+}
+
+TEST_F(ClipboardExchangeTest, TextOnlyClipboardGreysPasteAndTheShortcutChangesNothing) {
+    QApplication::clipboard()->setText("not a picture");
+    EXPECT_FALSE(editor().editActionEnabled(5));
+    EXPECT_FALSE(editor().editActionEnabled(6));
+    keys(Qt::Key_V);
+    EXPECT_FALSE(editor().selection.exists());
+    EXPECT_EQ(editor().undoRedo.UndoStack.size(), 1u);
+    EXPECT_FALSE(editor().doc.modified);
+}
+
+TEST_F(ClipboardExchangeTest, HugePictureShrinksThroughPasteOptionsToTheIcon) {
+    QImage picture(4000, 4000, QImage::Format_RGB32);
+    picture.fill(qRgb(0, 128, 0));
+    QApplication::clipboard()->setImage(picture);
+    dialogs.pasteOptions.push_back(1); // "Shrink To Fit (Keep Aspect)"
+    keys(Qt::Key_V);
+
+    EXPECT_EQ(dialogs.pasteDialogs, 1);
+    ASSERT_TRUE(editor().selection.SelFloating);
+    EXPECT_EQ(editor().doc.PicSelImage.width(), 32);
+    EXPECT_EQ(editor().doc.PicSelImage.height(), 32);
+    EXPECT_EQ(editor().doc.PicSelImage.pixel(31, 31), rgb(0, 128, 0));
+}
+
+} // namespace
