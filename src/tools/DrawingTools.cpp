@@ -11,9 +11,10 @@ using Figure = ShapeTool::Figure;
 using Inside = ShapeTool::Inside;
 
 // The canvas holds the pointer while a button is down, so coordinates may lie
-// anywhere on the screen. A figure reaching further than one canvas past the
-// edges would only be clipped, but would cost time in proportion to its size.
-constexpr int kReach = 384;
+// anywhere on the screen. Within this reach, which no desktop exceeds, a line
+// or ellipse keeps the slope and curve the pointer gave it; only input from
+// beyond it is pulled in, so a figure never costs more than its reach.
+constexpr int kReach = 1 << 16;
 int withinReach(int v) {
     return std::clamp(v, -kReach, Canvas::kCanvasSize + kReach);
 }

@@ -89,8 +89,15 @@ TEST_F(ShapeToolsTest, RubberBandIsInvertedOutlineThatErasesItself) {
     expectViewsShowTheDocument();
 }
 
-// Far past the canvas the figure is clipped to the icon, and stays cheap.
+// Far past the canvas the figure keeps its shape, is clipped to the icon, and
+// stays cheap.
 TEST_F(ShapeToolsTest, DragFarOffTheCanvasIsClipped) {
+    // A line towards icon pixel (300, 100) keeps its slope of one in three.
+    editor->tools.chooseTool(T::Line);
+    drag(1, {{at(0), at(0)}, {at(300), at(100)}});
+    EXPECT_EQ(pixelAt(30, 10), std::make_pair(kBlack, kBlack));
+    EXPECT_TRUE(editor->doc.isTransparent(10, 10));
+
     draw("", 'g');
     editor->tools.chooseTool(T::Rectangle);
     press(1, at(30), at(30));
