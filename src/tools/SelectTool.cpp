@@ -35,13 +35,14 @@ void SelectTool::mouseMove(int x, int y) {
     if (!dragging && !marking)
         return;
     const int zoom = editor_.doc.zoom;
-    // The pointer stays on the canvas while the button is down.
-    x = Coordinates::clampToCanvas(Coordinates::cellCorner(x, zoom));
-    y = Coordinates::clampToCanvas(Coordinates::cellCorner(y, zoom));
+    x = Coordinates::cellCorner(x, zoom);
+    y = Coordinates::cellCorner(y, zoom);
+    // A moved selection may follow the pointer off the canvas; a marked
+    // rectangle ends at the canvas edge.
     if (dragging)
         dragTo(x, y);
     else
-        markTo(x, y);
+        markTo(Coordinates::clampToCanvas(x), Coordinates::clampToCanvas(y));
 }
 
 void SelectTool::mouseUp(int, int) {

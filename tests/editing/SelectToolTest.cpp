@@ -73,6 +73,8 @@ TEST_F(SelectToolTest, MovingAMarkedSelectionLiftsItAndCommitsOnce) {
     EXPECT_TRUE(editor->tools.select.dragging);
     EXPECT_TRUE(doc().isTransparent(2, 2));
     EXPECT_TRUE(doc().isTransparent(3, 3));
+    move(1, -30, 90); // the pointer may take the selection off the canvas
+    EXPECT_EQ(std::pair(rect().Left, rect().Right), std::pair(-24, 0));
     move(1, 90, 90); // cells (7, 7) to (8, 8)
     move(1, 66, 54); // back to cells (5, 4) to (6, 5)
     EXPECT_EQ(std::tuple(rect().Left, rect().Top, rect().Right, rect().Bottom),
