@@ -12,7 +12,7 @@ void FloodTool::begin(const Gesture& gesture) {
     const int px = Coordinates::iconPixel(gesture.startX, zoom);
     const int py = Coordinates::iconPixel(gesture.startY, zoom);
     // The closing grid line at 384 lies past the last pixel.
-    if (gesture.startX < 0 || gesture.startY < 0 || !env_.document().PicMask.contains(px, py))
+    if (!env_.document().PicMask.contains(px, py))
         return;
     fill(px, py, gesture.colour);
 }

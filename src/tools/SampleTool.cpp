@@ -11,9 +11,10 @@ void SampleTool::begin(const Gesture& gesture) {
 void SampleTool::move(const Gesture& gesture, int x, int y) {
     const IconDocument& doc = env_.document();
     const int px = Coordinates::iconPixel(x, doc.zoom), py = Coordinates::iconPixel(y, doc.zoom);
-    // Off the picture (the right and bottom grid line, or a drag past the
-    // canvas) there is nothing to sample.
-    if (x < 0 || y < 0 || !doc.PicMask.contains(px, py))
+    // The division truncates, so the pointer up to a cell left of or above
+    // the canvas still reads the first pixel. Past the right and bottom grid
+    // line, or further out, there is nothing to sample.
+    if (!doc.PicMask.contains(px, py))
         return;
     const Colour mask = doc.PicMask.pixel(px, py);
     const Colour colour = doc.PicImage.pixel(px, py);

@@ -43,9 +43,11 @@ TEST_F(SampleToolTest, FollowsTheDragAndIgnoresPointsOffThePicture) {
     move(1, at(1), at(0));
     EXPECT_EQ(editor->colours.value[0], static_cast<std::int32_t>(kGreen));
     move(1, 384, at(0));
-    move(1, -5, at(0));
-    release(1, -5, at(0));
+    move(1, at(0), -13);
     EXPECT_EQ(editor->colours.value[0], static_cast<std::int32_t>(kGreen));
+    move(1, -11, at(0)); // -11 div 12 truncates to the first pixel
+    release(1, -11, at(0));
+    EXPECT_EQ(editor->colours.value[0], static_cast<std::int32_t>(kRed));
 }
 
 } // namespace
