@@ -43,7 +43,8 @@ void IconDocument::resize(int sizeIndex) {
         buffer.assign(static_cast<std::size_t>(size) * size, ColourWork{});
 }
 
-void IconDocument::clearToTransparent(int left, int top, int right, int bottom) {
+void IconDocument::clearToTransparent(int x1, int y1, int x2, int y2) {
+    const int left = x1 / zoom, top = y1 / zoom, right = x2 / zoom - 1, bottom = y2 / zoom - 1;
     fillBox(PicImage, left, top, right, bottom, kBlack);
     fillBox(PicMask, left, top, right, bottom, kWhite);
 }

@@ -32,9 +32,10 @@ class IconDocument {
     // work plane follow the size.
     void resize(int sizeIndex);
 
-    // Makes the icon-pixel rectangle (left, top)-(right, bottom), both corners
-    // included, transparent in both planes.
-    void clearToTransparent(int left, int top, int right, int bottom);
+    // Makes the area of a selection rectangle (x1, y1)-(x2, y2), in canvas
+    // pixels, transparent in both planes: the icon pixels from x1 div zoom to
+    // x2 div zoom - 1 across, both included, and the same down.
+    void clearToTransparent(int x1, int y1, int x2, int y2);
 
     bool isTransparent(int x, int y) const;
 

@@ -17,10 +17,7 @@ void Selection::LiftSelection() {
 }
 
 void Selection::BeginMove() {
-    IconDocument& doc = editor_.doc;
-    const int zoom = doc.zoom;
-    doc.clearToTransparent(SelRect.Left / zoom, SelRect.Top / zoom, SelRect.Right / zoom - 1,
-                           SelRect.Bottom / zoom - 1);
+    editor_.doc.clearToTransparent(SelRect.Left, SelRect.Top, SelRect.Right, SelRect.Bottom);
     // The refresh repaints the preview too, so it shows the cleared area.
     editor_.refresh();
     SelMarked = false;
@@ -63,17 +60,14 @@ void Selection::SelectAll() {
 
 void Selection::Delete(bool marked) {
     EndSelectionMark();
-    IconDocument& doc = editor_.doc;
-    const int zoom = doc.zoom;
     if (marked)
-        doc.clearToTransparent(SelRect.Left / zoom, SelRect.Top / zoom, SelRect.Right / zoom - 1,
-                               SelRect.Bottom / zoom - 1);
+        editor_.doc.clearToTransparent(SelRect.Left, SelRect.Top, SelRect.Right, SelRect.Bottom);
     // Redrawn from the planes in both cases: dropped floating contents must
     // not stay on the canvas.
     editor_.refresh();
     SelRect = Rect{};
     editor_.recordEdit();
-    doc.modified = true;
+    editor_.doc.modified = true;
 }
 
 void Selection::Cut() {

@@ -26,12 +26,12 @@ TEST(IconDocumentTest, ClearingARectangleMakesExactlyItsPixelsTransparent) {
     doc.PicMask.fill(kBlack);
     doc.PicImage.fill(0x0000FF);
     doc.PicImage.setPixel(0, 0, kBlack);
-    doc.PicMask.setPixel(5, 1, kWhite); // inverting red, outside the rectangle
-    doc.clearToTransparent(1, 1, 3, 2);
+    doc.PicMask.setPixel(5, 1, kWhite);     // inverting red, outside the rectangle
+    doc.clearToTransparent(24, 24, 96, 72); // icon pixels (1, 1) to (3, 2)
     EXPECT_EQ(picture(doc, 7, 4), AsciiArt::text({"#rrrrrr", "r...rir", "r...rrr", "rrrrrrr"}));
-    // Corners the other way round, and a single pixel.
-    doc.clearToTransparent(6, 3, 5, 2);
-    doc.clearToTransparent(0, 0, 0, 0);
+    // Corners off the cell corners truncate; and a single pixel.
+    doc.clearToTransparent(5 * 24 + 5, 2 * 24 + 23, 7 * 24 + 10, 4 * 24);
+    doc.clearToTransparent(0, 0, 24, 24);
     EXPECT_EQ(picture(doc, 7, 4), AsciiArt::text({".rrrrrr", "r...rir", "r...r..", "rrrrr.."}));
     EXPECT_TRUE(doc.isTransparent(6, 3));
     EXPECT_FALSE(doc.isTransparent(5, 1)); // inverting, not transparent
