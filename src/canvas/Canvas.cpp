@@ -93,18 +93,14 @@ void Canvas::drawSelectionRect(int left, int top, int right, int bottom) {
 }
 
 void Canvas::paintCell(int zoom, int cornerX, int cornerY, std::optional<Colour> colour) {
-    const int first = 1, last = zoom - 1; // the cell interior, inside the grid line
+    // The cell interior, inside the grid line.
+    const int left = cornerX + 1, top = cornerY + 1;
     for (Plane* plane : {&PicMain, &PicMainCopy}) {
-        if (colour) {
-            fillBox(*plane, cornerX + first, cornerY + first, cornerX + last, cornerY + last,
-                    *colour);
-        } else {
-            // The same look the background gives an empty cell: the hatch
-            // with a white edge on the right and at the bottom.
-            fillBox(*plane, cornerX + first, cornerY + first, cornerX + last, cornerY + last,
-                    kWhite);
-            bitBlt(*plane, cornerX + 1, cornerY + 1, zoom - 2, zoom - 2,
-                   Resources::transparentPattern(), 0, 0, RasterOp::Copy);
-        }
+        fillBox(*plane, left, top, cornerX + zoom - 1, cornerY + zoom - 1, colour.value_or(kWhite));
+        // A transparent cell looks as the background draws an empty one: the
+        // hatch, with a white edge on the right and at the bottom.
+        if (!colour)
+            bitBlt(*plane, left, top, zoom - 2, zoom - 2, Resources::transparentPattern(), 0, 0,
+                   RasterOp::Copy);
     }
 }
