@@ -3,6 +3,8 @@
 #include "fileio/IconDecoder.h"
 #include "fileio/IconLayout.h"
 
+#include <cmath>
+
 using namespace IconLayout;
 
 namespace {
@@ -34,7 +36,9 @@ QString depthSuffix(int bitCount) {
 }
 
 // The leading number of a text as the listing dialog reads it: blanks are
-// skipped, also between digits, and the first other character ends it.
+// skipped, also between digits, one decimal point is taken, and the first
+// other character ends it. The value goes into an integer as every real
+// number does here, halves to even, so "15.5" gives 16.
 int leadingNumber(const QString& text) {
     int i = 0;
     const auto skipBlanks = [&] {
@@ -47,12 +51,21 @@ int leadingNumber(const QString& text) {
         negative = text[i] == u'-';
         ++i;
     }
-    qint64 value = 0;
-    for (skipBlanks(); i < text.size() && text[i].isDigit(); skipBlanks()) {
-        value = std::min<qint64>(value * 10 + text[i].digitValue(), 1'000'000'000);
-        ++i;
+    double value = 0;
+    double place = 1; // below 1 once the decimal point is passed
+    for (skipBlanks(); i < text.size(); ++i, skipBlanks()) {
+        if (text[i] == u'.' && place == 1) {
+            place = 0.1;
+        } else if (!text[i].isDigit()) {
+            break;
+        } else if (place < 1) {
+            value += text[i].digitValue() * place;
+            place /= 10;
+        } else {
+            value = std::min(value * 10 + text[i].digitValue(), 1e9);
+        }
     }
-    return static_cast<int>(negative ? -value : value);
+    return static_cast<int>(std::nearbyint(negative ? -value : value));
 }
 
 IconLoadResult decoded(const ByteView& in, qint64 rowsOffset, int size, int depth,
@@ -102,8 +115,10 @@ std::optional<std::vector<IconListLine>> IconReader::listIcons(const QByteArray&
             return std::nullopt;
         const int depth =
             info->bitCount == 1 || info->bitCount == 4 || info->bitCount == 8 ? info->bitCount : 24;
+        // The height is halved as a real number: an odd biHeight lists as "15.5".
         lines.push_back({QString::number(info->width) + QStringLiteral(" x ") +
-                             QString::number(info->height / 2) + depthSuffix(info->bitCount),
+                             QString::number(info->height / 2.0, 'g', 12) +
+                             depthSuffix(info->bitCount),
                          depth});
     }
     return lines;

@@ -3,6 +3,7 @@
 #include "fileio/IconReader.h"
 #include "fileio/ModFileIO.h"
 
+#include <QtEndian>
 #include <gtest/gtest.h>
 
 namespace {
@@ -44,19 +45,23 @@ TEST(IconReaderTest, HeaderTestAndCountReadTheHeaderAndFirstEntryOnly) {
 }
 
 TEST(IconReaderTest, ListingNamesEveryEntryBySizeAndDepthInDirectoryOrder) {
-    const QByteArray file =
+    QByteArray file =
         icoFile({StoredImage(16, 4, distinct(16)), StoredImage(32, 8, distinct(256)),
                  StoredImage(48, 1, distinct(2)), StoredImage(24, 24), StoredImage(64, 32)});
+    // The fourth image's biHeight made odd: it is halved as a real number.
+    file.replace(qFromLittleEndian<qint32>(file.constData() + 6 + 3 * 16 + 12) + 8, 4, le(31, 4));
     const std::vector<IconListLine> expected = {{"16 x 16 ... 16 Color", 4},
                                                 {"32 x 32 ... 256 Color", 8},
                                                 {"48 x 48 ... Monochrome", 1},
-                                                {"24 x 24 ... True Color", 24},
+                                                {"24 x 15.5 ... True Color", 24},
                                                 {"64 x 64 ... True Color", 24}};
     EXPECT_EQ(IconReader::listIcons(file), expected);
 
-    // Choosing a line reads the numbers before and after the first "x".
+    // Choosing a line reads the numbers before and after the first "x",
+    // rounding halves to even.
     const std::tuple<QString, int, int> lines[] = {{"32 x 32 ... 256 Color", 32, 32},
-                                                   {"48 x 24 ... Monochrome", 48, 24},
+                                                   {"48 x 24.5 ... Monochrome", 48, 24},
+                                                   {"16 x 15.5 ... True Color", 16, 16},
                                                    {"no size", 0, 0},
                                                    {"  1 6", 16, 16}};
     for (const auto& [text, width, height] : lines)
