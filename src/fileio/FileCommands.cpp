@@ -62,6 +62,8 @@ bool FileCommands::loadIcons(const FileChoice& file) {
         showError(QStringLiteral("Unable to read data from ") + file.title);
         return false;
     }
+    IconLoadResult loaded;
+    IconDescription description;
     if (count > 1) {
         const auto lines = ModFileIO::listIcons(file.path);
         if (!lines) {
@@ -72,7 +74,6 @@ bool FileCommands::loadIcons(const FileChoice& file) {
         for (const IconListLine& line : *lines)
             texts << line.text;
         const int chosen = editor_.services.dialogs->chooseIconLine(texts);
-        IconDescription description;
         if (chosen >= 0 && chosen < static_cast<int>(lines->size()))
             description = IconReader::describeListLine(chosen, (*lines)[chosen]);
         if (description.width == 0) {
@@ -81,35 +82,20 @@ bool FileCommands::loadIcons(const FileChoice& file) {
             doc.hasFile = true;
             return true;
         }
-        const IconLoadResult loaded = ModFileIO::loadMultiIcon(file.path, description);
-        if (!loaded.ok()) {
-            editor_.services.dialogs->showMessage(ModFileIO::errorTitle(),
-                                                  ModFileIO::loadMessage(loaded, true),
-                                                  MessageIcon::Exclamation);
-            return false;
-        }
-        if (!install(loaded)) {
-            editor_.services.dialogs->showMessage(ModFileIO::errorTitle(),
-                                                  ModFileIO::multiLoadErrorMessage(),
-                                                  MessageIcon::Exclamation);
-            return false;
-        }
+        loaded = ModFileIO::loadMultiIcon(file.path, description);
+    } else {
+        loaded = ModFileIO::loadSingleIcon(file.path);
+    }
+    if (!loaded.ok()) {
+        editor_.services.dialogs->showMessage(ModFileIO::errorTitle(),
+                                              ModFileIO::loadMessage(loaded, count > 1),
+                                              MessageIcon::Exclamation);
+        return false;
+    }
+    install(loaded);
+    if (count > 1) {
         currentIcon = description;
         multiImage = true;
-    } else {
-        const IconLoadResult loaded = ModFileIO::loadSingleIcon(file.path);
-        if (!loaded.ok()) {
-            editor_.services.dialogs->showMessage(ModFileIO::errorTitle(),
-                                                  ModFileIO::loadMessage(loaded, false),
-                                                  MessageIcon::Exclamation);
-            return false;
-        }
-        if (!install(loaded)) {
-            editor_.services.dialogs->showMessage(ModFileIO::errorTitle(),
-                                                  ModFileIO::singleLoadErrorMessage(),
-                                                  MessageIcon::Exclamation);
-            return false;
-        }
     }
 
     editor_.undoRedo.Reset();
@@ -122,27 +108,18 @@ bool FileCommands::loadIcons(const FileChoice& file) {
     return true;
 }
 
-bool FileCommands::install(const IconLoadResult& loaded) {
+void FileCommands::install(const IconLoadResult& loaded) {
     IconDocument& doc = editor_.doc;
-    const int sizeIndex = IconDocument::indexForSize(loaded.width);
-    const auto fits = [&loaded](const Plane& plane) {
-        return plane.width() == loaded.width && plane.height() == loaded.width;
-    };
-    // The reader has checked all this; a loader that says otherwise must not
-    // leave a half-sized document behind.
-    if (sizeIndex < 0 || !fits(loaded.mask) || !fits(loaded.image))
-        return false;
     // Open has already offered to save; whatever the answer, the old
     // picture is being replaced and New must not ask again.
     doc.modified = false;
     doc.opening = true;
-    editor_.newIcon(sizeIndex);
+    editor_.newIcon(IconDocument::indexForSize(loaded.width));
     doc.opening = false;
     bitBlt(doc.PicMask, 0, 0, doc.size, doc.size, loaded.mask, 0, 0, RasterOp::Copy);
     bitBlt(doc.PicImage, 0, 0, doc.size, doc.size, loaded.image, 0, 0, RasterOp::Copy);
     // Composed, not refreshed: a freshly opened file is not modified.
     editor_.canvas.compose(doc);
-    return true;
 }
 
 bool FileCommands::save() {
@@ -152,9 +129,6 @@ bool FileCommands::save() {
         return saveSucceeded;
     }
     editor_.commitSelection();
-    // Intended: a file opened as one image of several is saved in place
-    // through the rewrite with no destination, which always fails; Save As
-    // to another file is the way to keep such an edit.
     setBusy(true);
     const bool written = writeDocument(doc.filePath, QString());
     setBusy(false);

@@ -54,9 +54,9 @@ class FileCommands {
   private:
     bool runOpen(const std::optional<FileChoice>& handedIn);
     bool loadIcons(const FileChoice& file);
-    // Gives the document the loaded image's size and planes; false, with the
-    // document untouched, when the image is not one the document can hold.
-    bool install(const IconLoadResult& loaded);
+    // Gives the document the loaded image's size and planes; a load that
+    // succeeded always has an editable size.
+    void install(const IconLoadResult& loaded);
     // The icon, or the whole multi-image file, to path; source is the file
     // the other images come from.
     bool writeDocument(const QString& source, const QString& destination);

@@ -128,14 +128,6 @@ QString ModFileIO::dimensionMessage(int width, int height) {
            QStringLiteral(" pixels.");
 }
 
-QString ModFileIO::singleLoadErrorMessage() {
-    return QStringLiteral("An unexpected error occurred while loading the icon.");
-}
-
-QString ModFileIO::multiLoadErrorMessage() {
-    return QStringLiteral("An unexpected error occurred while loading the icon resource.");
-}
-
 QString ModFileIO::loadMessage(const IconLoadResult& result, bool multi) {
     switch (result.status) {
     case LoadStatus::Ok:
@@ -145,5 +137,6 @@ QString ModFileIO::loadMessage(const IconLoadResult& result, bool multi) {
     case LoadStatus::Failed:
         break;
     }
-    return multi ? multiLoadErrorMessage() : singleLoadErrorMessage();
+    return multi ? QStringLiteral("An unexpected error occurred while loading the icon resource.")
+                 : QStringLiteral("An unexpected error occurred while loading the icon.");
 }

@@ -39,8 +39,6 @@ class ModFileIO {
     static QString errorTitle();
     // "... incompatible with Sollent.\r\n\r\n32 x 16 pixels."
     static QString dimensionMessage(int width, int height);
-    static QString singleLoadErrorMessage();
-    static QString multiLoadErrorMessage();
     // The message for a failed load of either kind (Ok gives an empty text).
     static QString loadMessage(const IconLoadResult& result, bool multi);
 };
