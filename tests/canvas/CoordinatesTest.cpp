@@ -10,7 +10,7 @@ TEST(CoordinatesTest, CanvasPixelsMapToCellsCornersAndCentres) {
     } cases[] = {
         {0, 24, 0, 0, 12}, {23, 24, 0, 0, 12},     {24, 24, 1, 24, 36},     {383, 24, 15, 360, 372},
         {11, 12, 0, 0, 6}, {12, 12, 1, 12, 18},    {383, 12, 31, 372, 378}, {7, 8, 0, 0, 4},
-        {8, 8, 1, 8, 12},  {383, 8, 47, 376, 380}, {384, 8, 48, 384, 388},
+        {8, 8, 1, 8, 12},  {383, 8, 47, 376, 380}, {384, 8, 48, 384, 388},  {-11, 12, 0, 0, 6},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(testing::Message() << c.v << " at zoom " << c.zoom);
@@ -18,12 +18,6 @@ TEST(CoordinatesTest, CanvasPixelsMapToCellsCornersAndCentres) {
         EXPECT_EQ(Coordinates::cellCorner(c.v, c.zoom), c.corner);
         EXPECT_EQ(Coordinates::cellCentre(c.v, c.zoom), c.centre);
     }
-}
-
-TEST(CoordinatesTest, DraggedPointsAreClampedToTheCanvas) {
-    for (const auto& [v, clamped] :
-         {std::pair{-50, 0}, {-1, 0}, {0, 0}, {200, 200}, {384, 384}, {385, 384}, {999, 384}})
-        EXPECT_EQ(Coordinates::clampToCanvas(v), clamped) << v;
 }
 
 TEST(CoordinatesTest, ReadOutsShowAtLeastTwoDigits) {

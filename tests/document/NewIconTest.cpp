@@ -29,7 +29,6 @@ TEST_F(NewIconTest, EverySizeStartsFullyTransparentWithItsZoom) {
         for (const auto& buffer : doc.colourBuffers)
             EXPECT_EQ(buffer.size(), static_cast<std::size_t>(c.size * c.size));
         EXPECT_EQ(IconDocument::indexForSize(c.size), c.index);
-        EXPECT_EQ(IconDocument::sizeForIndex(c.index), c.size);
         EXPECT_EQ(editor->undoRedo.UndoStack.size(), 1u);
         EXPECT_FALSE(doc.modified);
         EXPECT_EQ(editor->windowTitle, "Brevik - Untitled");
