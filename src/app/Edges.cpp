@@ -4,7 +4,7 @@
 #include <qdrawutil.h>
 
 void Edges::sunken(QPainter& painter, const QRect& rect, const QPalette& palette) {
-    qDrawWinPanel(&painter, rect, palette, true);
+    qDrawShadePanel(&painter, rect, palette, true, 1);
 }
 
 void Edges::etched(QPainter& painter, const QRect& rect, const QPalette& palette) {
@@ -12,5 +12,5 @@ void Edges::etched(QPainter& painter, const QRect& rect, const QPalette& palette
 }
 
 void Edges::topBand(QPainter& painter, int width, const QPalette& palette) {
-    qDrawShadeLine(&painter, 0, 1, width, 1, palette, true, 1, 0);
+    sunken(painter, QRect(0, 0, width, 2), palette);
 }

@@ -8,7 +8,8 @@ class QPainter;
 // The 3-D edges of the program's windows, drawn with the style's shades so
 // they follow the desktop's colours.
 namespace Edges {
-// Sunken, two pixels wide, inside rect (the DrawEdge look of a well).
+// A sunken outer border inside rect: one pixel of shadow along the top and
+// left, one of highlight along the bottom and right.
 void sunken(QPainter& painter, const QRect& rect, const QPalette& palette);
 // An etched groove, one dark and one light line, inside rect.
 void etched(QPainter& painter, const QRect& rect, const QPalette& palette);

@@ -1,6 +1,7 @@
 #include "fileio/FrmHotSpot.h"
 
 #include "app/Edges.h"
+#include "app/MainLayout.h"
 #include "app/PictureBox.h"
 #include "app/ToolIcons.h"
 #include "app/WindowPlacement.h"
@@ -73,8 +74,8 @@ FrmHotSpot::FrmHotSpot(const Plane& canvas, int zoom, int maxIndex, QWidget* par
 
 void FrmHotSpot::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    Edges::sunken(painter, PicCursor->geometry().adjusted(-2, -2, 2, 2), palette());
-    Edges::sunken(painter, ImgXY->geometry().adjusted(-2, -2, 2, 2), palette());
+    Edges::sunken(painter, MainLayout::sunkenAround(PicCursor->geometry()), palette());
+    Edges::sunken(painter, MainLayout::sunkenAround(ImgXY->geometry()), palette());
     const auto left = Qt::AlignLeft | Qt::AlignVCenter;
     painter.drawText(kHotXCaption, left, QStringLiteral("Hot X:"));
     painter.drawText(kHotYCaption, left, QStringLiteral("Hot Y:"));

@@ -24,6 +24,15 @@ TEST_F(MainWindowTest, StartsUntitledWith582By460CentredAThirdDown) {
     EXPECT_EQ(window->pos(), QPoint((screen.width() - 582) / 2, (screen.height() - 460) / 3));
     EXPECT_EQ(window->centralWidget()->y(), window->menuBar()->height());
     EXPECT_EQ(window->PicMain->geometry(), QRect(11, 14, 385, 385));
+    // The boxes' sunken edge is one pixel: shadow on the left, highlight on
+    // the right (the preview box, then the first read-out box).
+    const QImage client = window->centralWidget()->grab().toImage();
+    const QPalette& shades = window->centralWidget()->palette();
+    for (const int y : {30, 80})
+        EXPECT_EQ(QList<QRgb>({client.pixel(408, y), client.pixel(409, y), client.pixel(503, y)}),
+                  QList<QRgb>({shades.dark().color().rgb(), shades.window().color().rgb(),
+                               shades.light().color().rgb()}))
+            << y;
 }
 
 TEST_F(MainWindowTest, ToolButtonsCarryTheToolNamesAndNeverTakeTheFocus) {
