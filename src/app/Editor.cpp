@@ -149,9 +149,10 @@ void Editor::commandLineOpen(const QString& commandLine) {
                                       MessageIcon::Exclamation);
     };
     // Taken as it stands: quotes or blanks around the path make it a file
-    // that does not exist.
+    // that does not exist. Anything that exists has a name to show, so a
+    // folder or an unreadable file goes on to Open and its message.
     const QFileInfo file(commandLine);
-    if (!file.isFile() || !file.isReadable()) {
+    if (!file.exists()) {
         error(QStringLiteral("Failed to open file."));
         return;
     }

@@ -25,7 +25,7 @@ TEST_F(FileCommandsEntryTest, TheCommandLineMustNameAnExistingIcoFile) {
     const std::tuple<QString, std::string> cases[] = {
         {"", ""},
         {path("missing.ico"), failed},
-        {path("folder.ico"), failed},
+        {path("folder.ico"), brevikError("folder.ico is not a valid icon file.") + failed},
         {"\"" + good + "\"", failed},
         {good + " ", failed},
         {path("notes.txt"), brevikError("Invalid file extension.")},
