@@ -144,24 +144,20 @@ bool Editor::offerToSave() {
 void Editor::commandLineOpen(const QString& commandLine) {
     if (commandLine.isEmpty())
         return;
-    const auto error = [this](const QString& text) {
-        services.dialogs->showMessage(QStringLiteral("Brevik - Error"), text,
-                                      MessageIcon::Exclamation);
-    };
     // Taken as it stands: quotes or blanks around the path make it a file
     // that does not exist. Anything that exists has a name to show, so a
     // folder or an unreadable file goes on to Open and its message.
     const QFileInfo file(commandLine);
     if (!file.exists()) {
-        error(QStringLiteral("Failed to open file."));
+        files.showError(QStringLiteral("Failed to open file."));
         return;
     }
     if (commandLine.right(4).toLower() != QStringLiteral(".ico")) {
-        error(QStringLiteral("Invalid file extension."));
+        files.showError(QStringLiteral("Invalid file extension."));
         return;
     }
     if (!files.openPath(commandLine, file.fileName()))
-        error(QStringLiteral("Failed to open file."));
+        files.showError(QStringLiteral("Failed to open file."));
 }
 
 void Editor::dropFiles(const QStringList& paths) {
@@ -188,10 +184,7 @@ void Editor::recentClick(int index) {
         }
         return;
     }
-    services.dialogs->showMessage(QStringLiteral("Brevik - Error"),
-                                  QStringLiteral("Unable to locate the file ") +
-                                      ModRecent::FileNameOf(path),
-                                  MessageIcon::Exclamation);
+    files.showError(QStringLiteral("Unable to locate the file ") + ModRecent::FileNameOf(path));
     recent.RemoveRecent(path);
 }
 

@@ -35,6 +35,9 @@ class FileCommands {
     // The common file dialog, opened in the recent folder; a chosen file
     // makes its folder the recent folder.
     std::optional<FileChoice> chooseFile(FileDialogMode mode);
+    // A warning titled "Brevik - Error", as the main window's commands
+    // report their failures.
+    void showError(const QString& text);
 
     // Set by every Save and Save As that ran to a result.
     bool saveSucceeded = false;
@@ -61,7 +64,6 @@ class FileCommands {
     // the other images come from.
     bool writeDocument(const QString& source, const QString& destination);
     void setBusy(bool busy);
-    void showError(const QString& text);
 
     Editor& editor_;
 };
