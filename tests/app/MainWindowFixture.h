@@ -12,9 +12,8 @@
 
 #include <memory>
 
-// The real main window on the offscreen platform, asking its questions of
-// scripted dialogs, with an in-memory clipboard and a settings store of its
-// own in a temporary folder. Each test starts it, as the program's load does.
+// The real main window on the offscreen platform, with scripted dialogs, an
+// in-memory clipboard and a settings store of its own.
 class MainWindowFixture : public ::testing::Test {
   protected:
     MainWindowFixture() { editor().registry = ModRegistry(folder.filePath("store.ini")); }

@@ -68,12 +68,9 @@ TEST(BadInputTest, EveryReaderGivesATypedFailureForMalformedBytes) {
 
 TEST(BadInputTest, ChoicesOutsideTheDirectoryFailTheMultiLoad) {
     const QByteArray good = twoImages();
-    for (const IconDescription& d :
-         {IconDescription{2, 24, 16, 16}, IconDescription{-1, 8, 16, 16}}) {
-        const IconLoadResult r = IconReader::loadMultiIcon(good, d);
-        EXPECT_EQ(ModFileIO::loadMessage(r, true),
+    for (const int index : {2, -1})
+        EXPECT_EQ(ModFileIO::loadMessage(IconReader::loadMultiIcon(good, {index, 8, 16, 16}), true),
                   "An unexpected error occurred while loading the icon resource.");
-    }
     // A 48 x 48 choice of a 16 x 16 entry runs past the file's end.
     EXPECT_EQ(IconReader::loadMultiIcon(good, {1, 24, 48, 48}).fault, ReadFault::OutOfBounds);
 }

