@@ -79,11 +79,6 @@ TEST_F(MainWindowTest, MouseOnTheCanvasShowsItsPixelAndPaintsWithThePencil) {
     EXPECT_EQ(editor().doc.PicMask, mask);
     EXPECT_EQ(colourAt(window->PicMain, 4 * 12 + 6, 2 * 12 + 6), kWhite);
     EXPECT_EQ(colourAt(window->PicIcon, 4, 2), kWhite);
-
-    // Mini palette, third column, fourth row: yellow, on the right button.
-    QTest::mouseClick(window->PicMiniPal, Qt::RightButton, {}, QPoint(2 * 24 + 5, 3 * 13 + 5));
-    EXPECT_EQ(editor().colours.value[1], static_cast<std::int32_t>(rgb(255, 255, 0)));
-    EXPECT_EQ(colourAt(window->PicRight, 22, 11), rgb(255, 255, 0));
 }
 
 TEST_F(MainWindowTest, ClosingWithUnsavedChangesAndCancelKeepsTheWindow) {
@@ -124,13 +119,6 @@ TEST_F(MainWindowTest, TheCommandLineAndDropsReachOpen) {
     EXPECT_EQ(dialogs.messages[0].text, "first.ico is not a valid icon file.");
     EXPECT_EQ(dialogs.messages[1].text, "Invalid file extension.");
     EXPECT_EQ(other.windowTitle(), "Brevik - Untitled");
-}
-
-TEST_F(MainWindowTest, AboutShowsTheVersion) {
-    window->menus.MnuAbout->trigger();
-    auto* version = window->findChild<QLabel*>("LblVersion");
-    ASSERT_NE(version, nullptr);
-    EXPECT_TRUE(version->text().startsWith("Version " BREVIK_TEST_VERSION " "));
 }
 
 } // namespace

@@ -1,4 +1,3 @@
-#include "app/PlaneImage.h"
 #include "app/QtUserDialogs.h"
 #include "app/WindowPlacement.h"
 
@@ -42,21 +41,6 @@ TEST(QtUserDialogs, FileDialogsOfEachModeAndTheChoiceTheyGive) {
     EXPECT_EQ(QFileInfo(choice.path).fileName(), "tool.exe");
     EXPECT_EQ(choice.title, "tool.exe");
     EXPECT_EQ(choice.filterIndex, 4);
-}
-
-TEST(PlaneImage, ColourValuesKeepRedInTheLowByteAndSeeThroughArrivesOverWhite) {
-    const Plane plane(1, 1, rgb(1, 2, 3));
-    EXPECT_EQ(PlaneImage::toImage(plane).pixel(0, 0), qRgb(1, 2, 3));
-    EXPECT_EQ(PlaneImage::toPlane(PlaneImage::toImage(plane)), plane);
-
-    QImage seeThrough(3, 1, QImage::Format_ARGB32);
-    seeThrough.setPixel(0, 0, qRgba(0, 0, 0, 0));
-    seeThrough.setPixel(1, 0, qRgba(0, 0, 255, 255));
-    seeThrough.setPixel(2, 0, qRgba(0, 0, 0, 128));
-    const Plane overWhite = PlaneImage::toPlane(seeThrough);
-    EXPECT_EQ(overWhite.pixels(),
-              (std::vector<Colour>{kWhite, rgb(0, 0, 255), rgb(127, 127, 127)}));
-    EXPECT_TRUE(PlaneImage::toPlane(QImage()).isEmpty());
 }
 
 TEST(WindowPlacement, CentredAcrossAndAThirdDown) {

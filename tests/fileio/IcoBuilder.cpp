@@ -2,9 +2,8 @@
 
 #include <algorithm>
 
-IcoBuilder& IcoBuilder::entry(const Entry& e) {
-    u8(e.width).u8(e.height).u8(e.colourCount).u8(e.reserved).u16(e.planes).u16(e.bitCount);
-    return u32(e.bytesInRes).u32(e.imageOffset);
+IcoBuilder& IcoBuilder::entry(int size, int bitCount, qint64 bytesInRes, qint64 imageOffset) {
+    return u8(size).u8(size).u16(0).u16(1).u16(bitCount).u32(bytesInRes).u32(imageOffset);
 }
 
 IcoBuilder& IcoBuilder::info(qint64 width, qint64 height, int bitCount, qint64 imageSize) {
@@ -47,7 +46,7 @@ QByteArray icoFile(const std::vector<StoredImage>& images, int type) {
     qint64 offset = 6 + 16 * static_cast<qint64>(images.size());
     for (const StoredImage& image : images) {
         const qint64 length = image.data().size();
-        b.entry({image.size, image.size, 0, 0, 1, image.depth, length, offset});
+        b.entry(image.size, image.depth, length, offset);
         offset += length;
     }
     for (const StoredImage& image : images)

@@ -8,11 +8,6 @@
 // Assembles icon files field by field, so that the reader is tested on files
 // this program did not write, malformed ones included.
 struct IcoBuilder {
-    struct Entry {
-        int width = 16, height = 16, colourCount = 0, reserved = 0, planes = 1, bitCount = 0;
-        qint64 bytesInRes = 0, imageOffset = 0;
-    };
-
     IcoBuilder& u8(int v) {
         bytes.append(static_cast<char>(v & 0xFF));
         return *this;
@@ -20,7 +15,8 @@ struct IcoBuilder {
     IcoBuilder& u16(int v) { return u8(v).u8(v >> 8); }
     IcoBuilder& u32(qint64 v) { return u16(static_cast<int>(v)).u16(static_cast<int>(v >> 16)); }
     IcoBuilder& header(int type, int count) { return u16(0).u16(type).u16(count); }
-    IcoBuilder& entry(const Entry& e);
+    // A square image's directory entry: no colour count, one plane.
+    IcoBuilder& entry(int size, int bitCount, qint64 bytesInRes, qint64 imageOffset);
     // A BITMAPINFOHEADER of 40 bytes with every other field 0.
     IcoBuilder& info(qint64 width, qint64 height, int bitCount, qint64 imageSize = 0);
 

@@ -122,7 +122,7 @@ TEST(IconReaderTest, SizesTheEditorCannotHoldGetTheDimensionMessage) {
     for (const auto& [biWidth, biHeight, width, height] : cases) {
         SCOPED_TRACE(biHeight);
         IcoBuilder b;
-        b.header(1, 1).entry({16, 16, 0, 0, 1, 24, 40, 22}).info(biWidth, biHeight, 24);
+        b.header(1, 1).entry(16, 24, 40, 22).info(biWidth, biHeight, 24);
         const IconLoadResult r = IconReader::loadSingleIcon(b.bytes.append(QByteArray(4000, 0)));
         EXPECT_EQ(ModFileIO::loadMessage(r, false),
                   width ? ModFileIO::dimensionMessage(width, height) : "");

@@ -24,7 +24,7 @@ TEST(IconWriterTest, IconsAndBitmapsHaveTheLengthsAndHeadersOfTheirDepthAndSize)
         const QByteArray icon = IconWriter::iconBytes(Plane(size, size), image, colourCount);
         EXPECT_EQ(icon.size(), iconSize);
         IcoBuilder header;
-        header.header(1, 1).entry({size, size, 0, 0, 1, depth, iconSize - 22, 22});
+        header.header(1, 1).entry(size, depth, iconSize - 22, 22);
         EXPECT_EQ(icon.left(62), header.info(size, 2 * size, depth).bytes);
         if (depth < 8) { // the 2- and 16-entry tables are written all black
             EXPECT_EQ(icon.mid(62, 4 << depth), QByteArray(4 << depth, 0));
@@ -116,8 +116,7 @@ TEST(IconWriterTest, EditedImageOfThreeComesFirstAndTheOthersFollowWithNewOffset
     const qint64 start = 6 + 3 * 16, length = 3240, firstLength = first.data().size();
     // The header, the new entry, then entries 0 and 2 with only their offsets
     // changed; the image as a one-image icon has it, its length in biSizeImage.
-    QByteArray expected =
-        source.left(6) + IcoBuilder().entry({32, 32, 0, 0, 1, 24, length, start}).bytes;
+    QByteArray expected = source.left(6) + IcoBuilder().entry(32, 24, length, start).bytes;
     expected += source.mid(6, 12) + le(start + length, 4) + source.mid(38, 12) +
                 le(start + length + firstLength, 4);
     expected += IconWriter::iconBytes(mask, image, kTrue).mid(22).replace(20, 4, le(length, 4));
