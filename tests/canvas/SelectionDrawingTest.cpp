@@ -1,6 +1,5 @@
 #include "canvas/Canvas.h"
 
-#include "CanvasExpectations.h"
 #include "document/IconDocument.h"
 #include "platform/Shapes.h"
 
@@ -10,7 +9,9 @@
 
 namespace {
 
-using namespace CanvasExpectations;
+bool onGrid(int x, int y, int zoom) {
+    return x % zoom == 0 || y % zoom == 0;
+}
 
 constexpr Colour kRed = 0x0000FF, kGreen = 0x00FF00, kGrey = 0x808080;
 
@@ -35,10 +36,12 @@ TEST(SelectionDrawingTest, AFloatingSelectionIsComposedOverTheCanvasAndPreview) 
     IconDocument doc = documentWithSelection();
     Canvas canvas;
     canvas.placePreview(16);
+    doc.modified = false;
     canvas.refreshFromPlanes(doc);
+    EXPECT_TRUE(doc.modified);
     const Canvas before = canvas;
 
-    // Over icon pixels (7, 4) to (8, 5): across the grey and transparent halves.
+    // Across the grey and transparent halves.
     const int left = 7 * 24, top = 4 * 24;
     canvas.drawFloating(doc, left, top, left + 48, top + 48);
 
@@ -67,9 +70,7 @@ TEST(SelectionDrawingTest, TheMarqueeIsAThreePixelInvertedBoxThatASecondDrawingR
     plain.refreshFromPlanes(doc);
     plain.drawFloating(doc, left, top, right, bottom);
     Canvas marked;
-    doc.modified = false;
     marked.refreshWithFloating(doc, left, top, right, bottom);
-    EXPECT_TRUE(doc.modified);
     EXPECT_EQ(marked.PicMainCopy, plain.PicMainCopy);
     EXPECT_EQ(marked.PicIcon, plain.PicIcon);
     for (int y = 0; y < 385; ++y)
@@ -93,7 +94,6 @@ TEST(SelectionDrawingTest, PaintingACellLooksLikeAFullRefresh) {
         SCOPED_TRACE(z);
         Canvas painted, redrawn;
         painted.refreshFromPlanes(doc);
-        // Opaque, then back to transparent over the painted cell.
         for (const std::optional<Colour> colour : {std::optional{kRed}, std::optional<Colour>{}}) {
             painted.paintCell(z, 3 * z, 2 * z, colour);
             doc.PicImage.setPixel(3, 2, colour.value_or(kBlack));

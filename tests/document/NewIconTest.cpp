@@ -14,18 +14,19 @@ TEST_F(NewIconTest, EverySizeStartsFullyTransparentWithItsZoom) {
         doc.PicImage.fill(0x123456);
         doc.PicMask.fill(kBlack);
         doc.modified = false;
+        editor->colours.value = {0x123456, kTransparentColour};
         editor->newIcon(c.index);
         EXPECT_EQ(doc.size, c.size);
         EXPECT_EQ(doc.zoom, c.zoom);
         EXPECT_EQ(doc.maxIndex, c.size - 1);
+        EXPECT_EQ(editor->colours.value[0], static_cast<std::int32_t>(kBlack));
+        EXPECT_EQ(editor->colours.value[1], static_cast<std::int32_t>(kWhite));
         EXPECT_EQ(editor->canvas.previewLeft, c.previewLeft);
         EXPECT_EQ(editor->canvas.previewTop, c.previewTop);
         EXPECT_EQ(doc.PicImage, Plane(c.size, c.size, kBlack));
         EXPECT_EQ(doc.PicMask, Plane(c.size, c.size, kWhite));
-        EXPECT_EQ(doc.PicSelImage.width(), c.size);
         EXPECT_EQ(doc.PicSelMask.height(), c.size);
         EXPECT_EQ(doc.PicCol.width(), 2 * c.size);
-        EXPECT_EQ(doc.PicCol.height(), c.size);
         for (const auto& buffer : doc.colourBuffers)
             EXPECT_EQ(buffer.size(), static_cast<std::size_t>(c.size * c.size));
         EXPECT_EQ(IconDocument::indexForSize(c.size), c.index);

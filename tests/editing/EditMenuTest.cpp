@@ -1,8 +1,8 @@
-#include "SelectionFixture.h"
+#include "tools/ToolsFixture.h"
 
 namespace {
 
-class EditMenuTest : public SelectionFixture {};
+class EditMenuTest : public ToolsFixture {};
 
 TEST_F(EditMenuTest, ItemsFollowTheSelectionAndTheClipboard) {
     const auto enabling = [this] {
@@ -12,6 +12,15 @@ TEST_F(EditMenuTest, ItemsFollowTheSelectionAndTheClipboard) {
         return items;
     };
     EXPECT_EQ(enabling(), "------+");
+    paint(0, 0, kRed);
+    recordPainting();
+    const Plane canvas = editor->canvas.PicMain, image = doc().PicImage;
+    for (Item item : {Cut, Copy, Delete}) // disabled items do nothing when called
+        editor->editAction(item);
+    EXPECT_EQ(clipboard.writes, 0);
+    EXPECT_EQ(undoSize(), 2u);
+    EXPECT_EQ(doc().PicImage, image);
+    EXPECT_EQ(editor->canvas.PicMain, canvas);
     mark(0, 0, 24, 24);
     EXPECT_EQ(enabling(), "++--+++");
     editor->editAction(Copy);
@@ -22,20 +31,6 @@ TEST_F(EditMenuTest, ItemsFollowTheSelectionAndTheClipboard) {
     EXPECT_EQ(enabling(), "+++++++");
     editor->editAction(Delete);
     EXPECT_EQ(enabling(), "--++--+");
-}
-
-TEST_F(EditMenuTest, CutCopyAndDeleteWithoutASelectionDoNothing) {
-    paint(0, 0, kRed);
-    recordPainting();
-    const Plane canvas = editor->canvas.PicMain, image = doc().PicImage;
-    for (Item item : {Cut, Copy, Delete}) {
-        SCOPED_TRACE(item);
-        editor->editAction(item);
-        EXPECT_EQ(clipboard.writes, 0);
-        EXPECT_EQ(undoSize(), 2u);
-        EXPECT_EQ(doc().PicImage, image);
-        EXPECT_EQ(editor->canvas.PicMain, canvas);
-    }
 }
 
 } // namespace

