@@ -46,28 +46,6 @@ TEST(RasterTest, BlockCopyClipsAtEveryEdgeOfBothPlanes) {
     }
 }
 
-TEST(RasterTest, APlaneTransferredOntoItselfReadsTheOldPixels) {
-    const struct {
-        const char* name;
-        int dx, dy, dw, dh, sx, sy, sw, sh;
-        std::string expected;
-    } cases[] = {
-        {"flipped across", 0, 0, 5, 3, 4, 0, -5, 3, text({"edcba", "jihgf", "onmlk"})},
-        {"flipped down", 0, 0, 5, 3, 0, 2, 5, -3, text({"klmno", "fghij", "abcde"})},
-        {"left reflected into right", 3, 0, 2, 3, 1, 0, -2, 3, text({"abcba", "fghgf", "klmlk"})},
-        {"top-left doubled", 0, 0, 4, 2, 0, 0, 2, 1, text({"aabbe", "aabbj", "klmno"})},
-    };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.name);
-        Plane plane = toPlane({"abcde", "fghij", "klmno"}, letters());
-        stretchBlt(plane, c.dx, c.dy, c.dw, c.dh, plane, c.sx, c.sy, c.sw, c.sh, RasterOp::Copy);
-        EXPECT_EQ(fromPlane(plane, letters()), c.expected);
-    }
-    Plane shifted = toPlane({"abcde", "fghij", "klmno"}, letters());
-    bitBlt(shifted, 1, 1, 4, 2, shifted, 0, 0, RasterOp::Copy); // shifted down-right by one
-    EXPECT_EQ(fromPlane(shifted, letters()), text({"abcde", "fabcd", "kfghi"}));
-}
-
 TEST(RasterTest, StretchTakesTheFirstPixelOfEachBlockAndMirrorsOnANegativeExtent) {
     const struct {
         const char* name;
