@@ -22,6 +22,7 @@ TEST_F(FreehandToolsTest, OnlyPointsInsideTheGridPaintTheirCell) {
         else
             expectPicture("k", p.paintedX, p.paintedY, 'T');
         EXPECT_TRUE(p.paintedX < 0 || editor->doc.modified);
+        expectViews();
     }
 }
 
