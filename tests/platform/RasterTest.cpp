@@ -72,6 +72,26 @@ TEST(RasterTest, StretchTakesTheFirstPixelOfEachBlockAndMirrorsOnANegativeExtent
     }
 }
 
+// The flips and reflections of the image commands transfer a plane onto
+// itself; each must read the pixels as they were before the transfer.
+TEST(RasterTest, APlaneStretchedOntoItselfReadsItsOldPixels) {
+    const struct {
+        const char* name;
+        int dx, dw, sx, sw;
+        std::string expected;
+    } cases[] = {
+        {"flip: source from the far edge backwards", 0, 5, 4, -5, text({"edcba"})},
+        {"reflect the left half over the right", 3, 2, 1, -2, text({"abcba"})},
+        {"shift right over itself", 1, 4, 0, 4, text({"aabcd"})},
+    };
+    for (const auto& t : cases) {
+        SCOPED_TRACE(t.name);
+        Plane plane = toPlane({"abcde"}, letters());
+        stretchBlt(plane, t.dx, 0, t.dw, 1, plane, t.sx, 0, t.sw, 1, RasterOp::Copy);
+        EXPECT_EQ(fromPlane(plane, letters()), t.expected);
+    }
+}
+
 TEST(RasterTest, FillRectIsHalfOpenAndClippedAndOutsidePixelsAreIgnored) {
     Plane plane(3, 2, kUntouched);
     for (const auto& [x, y] : {std::pair{-1, 0}, {3, 0}, {0, -1}, {0, 2}}) {
