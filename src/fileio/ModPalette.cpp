@@ -29,6 +29,19 @@ bool fitsIn(const Plane& picture, std::size_t room, bool skipBlackAndWhite) {
     return true;
 }
 
+// Gives each colour of the picture not yet seen the next entry from first to
+// last, in scan order (top row first, left to right), until the entries run out.
+void placeNewColours(const Plane& picture, ColourTable& table, std::unordered_set<Colour> seen,
+                     int first, int last) {
+    int next = first;
+    for (const Colour c : picture.pixels()) {
+        if (next > last)
+            break;
+        if (seen.insert(c).second)
+            table[next++] = c;
+    }
+}
+
 } // namespace
 
 int ModPalette::countColours(const Plane& picture, bool forIcon) {
@@ -46,14 +59,7 @@ int ModPalette::countColours(const Plane& picture, bool forIcon) {
 ColourTable ModPalette::buildIconPalette(const Plane& picture) {
     ColourTable table(256, kBlack);
     table[255] = kWhite;
-    std::unordered_set<Colour> seen{kBlack, kWhite};
-    int next = 1;
-    for (const Colour c : picture.pixels()) {
-        if (next > 254)
-            break;
-        if (seen.insert(c).second)
-            table[next++] = c;
-    }
+    placeNewColours(picture, table, {kBlack, kWhite}, 1, 254);
     return table;
 }
 
@@ -63,14 +69,7 @@ ColourTable ModPalette::buildBitmapPalette(const Plane& picture) {
     // take the first colour seen. That is how 8-bit bitmaps come out, on
     // purpose, and is kept.
     ColourTable table(256, kBlack);
-    std::unordered_set<Colour> seen;
-    int next = 0;
-    for (const Colour c : picture.pixels()) {
-        if (next > 255)
-            break;
-        if (seen.insert(c).second)
-            table[next++] = c;
-    }
+    placeNewColours(picture, table, {}, 0, 255);
     return table;
 }
 
