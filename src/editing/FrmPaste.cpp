@@ -1,5 +1,6 @@
 #include "editing/FrmPaste.h"
 
+#include "app/OkCancelButtons.h"
 #include "app/WindowPlacement.h"
 
 #include <QGroupBox>
@@ -24,13 +25,10 @@ FrmPaste::FrmPaste(QWidget* parent) : QDialog(parent) {
     }
     OptPaste[0]->setChecked(true);
 
-    CmdOk = new QPushButton(QStringLiteral("&Ok"), this);
-    CmdOk->setObjectName("CmdOk");
-    CmdOk->setGeometry(234, 36, 88, 28);
-    CmdOk->setDefault(true);
-    CmdCancel = new QPushButton(QStringLiteral("&Cancel"), this);
-    CmdCancel->setObjectName("CmdCancel");
-    CmdCancel->setGeometry(234, 72, 88, 28);
+    const OkCancelButtons buttons =
+        addOkCancelButtons(this, QRect(234, 36, 88, 28), QRect(234, 72, 88, 28));
+    CmdOk = buttons.ok;
+    CmdCancel = buttons.cancel;
 
     connect(CmdOk, &QPushButton::clicked, this, [this] {
         pasteChoice_ = OptPaste[0]->isChecked() ? 0 : 1;

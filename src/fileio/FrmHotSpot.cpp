@@ -2,6 +2,7 @@
 
 #include "app/Edges.h"
 #include "app/MainLayout.h"
+#include "app/OkCancelButtons.h"
 #include "app/PictureBox.h"
 #include "app/ToolIcons.h"
 #include "app/WindowPlacement.h"
@@ -47,13 +48,10 @@ FrmHotSpot::FrmHotSpot(const Plane& canvas, int zoom, int maxIndex, QWidget* par
     ImgXY->setPixmap(ToolIcons::pointerImage());
     ImgXY->setGeometry(408, 66, 12, 12);
 
-    CmdOk = new QPushButton(QStringLiteral("&Ok"), this);
-    CmdOk->setObjectName("CmdOk");
-    CmdOk->setGeometry(406, 330, 88, 28);
-    CmdOk->setDefault(true);
-    CmdCancel = new QPushButton(QStringLiteral("&Cancel"), this);
-    CmdCancel->setObjectName("CmdCancel");
-    CmdCancel->setGeometry(406, 366, 88, 28);
+    const OkCancelButtons buttons =
+        addOkCancelButtons(this, QRect(406, 330, 88, 28), QRect(406, 366, 88, 28));
+    CmdOk = buttons.ok;
+    CmdCancel = buttons.cancel;
 
     connect(PicCursor, &PictureBox::mouseDown, this, [this](int button, QPointF p) {
         picker_.mouseDown(button, p.x(), p.y());

@@ -1,5 +1,6 @@
 #include "fileio/FrmMultiIconDialog.h"
 
+#include "app/OkCancelButtons.h"
 #include "app/WindowPlacement.h"
 
 #include <QFontDatabase>
@@ -40,13 +41,10 @@ FrmMultiIconDialog::FrmMultiIconDialog(const QStringList& lines, QWidget* parent
     if (LstIcons->count() > 0)
         LstIcons->setCurrentRow(0);
 
-    CmdOk = new QPushButton(QStringLiteral("&Ok"), this);
-    CmdOk->setObjectName("CmdOk");
-    CmdOk->setGeometry(8, 178, 94, 28);
-    CmdOk->setDefault(true);
-    CmdCancel = new QPushButton(QStringLiteral("&Cancel"), this);
-    CmdCancel->setObjectName("CmdCancel");
-    CmdCancel->setGeometry(109, 178, 94, 28);
+    const OkCancelButtons buttons =
+        addOkCancelButtons(this, QRect(8, 178, 94, 28), QRect(109, 178, 94, 28));
+    CmdOk = buttons.ok;
+    CmdCancel = buttons.cancel;
 
     connect(CmdOk, &QPushButton::clicked, this, &FrmMultiIconDialog::choose);
     connect(LstIcons, &QListWidget::itemDoubleClicked, this, &FrmMultiIconDialog::choose);
