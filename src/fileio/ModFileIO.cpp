@@ -8,6 +8,10 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
+#ifdef Q_OS_UNIX
+#include <unistd.h>
+#endif
+
 namespace {
 
 // At most maxBytes of a regular file. Devices, pipes and directories are
@@ -32,6 +36,17 @@ std::optional<QByteArray> readAtMost(const QString& path, qint64 maxBytes, bool 
     if (fault)
         *fault = ReadFault::None;
     return bytes;
+}
+
+// Asks the system to put the written bytes on the device, where a delayed
+// allocation can still fail for want of space.
+bool syncToDisk(QFileDevice& file) {
+#ifdef Q_OS_UNIX
+    return ::fsync(file.handle()) == 0;
+#else
+    Q_UNUSED(file);
+    return true;
+#endif
 }
 
 // Enough for the directory header and the first entry.
@@ -83,8 +98,24 @@ IconLoadResult ModFileIO::loadMultiIcon(const QString& path, const IconDescripti
 bool ModFileIO::saveFile(const QString& path, const QByteArray& bytes) {
     if (path.isEmpty() || bytes.isEmpty())
         return false;
+    // Written to a temporary file beside the destination, which replaces it
+    // only at commit. A folder that takes no new file (read-only, say) is
+    // therefore refused even when the file itself is writable: writing in
+    // place instead could leave a half-written icon behind.
     QSaveFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit();
+    if (!file.open(QIODevice::WriteOnly))
+        return false;
+    // QSaveFile buffers a small write, and commit() renames the temporary
+    // file over the destination even when its own flush fails (a full disk,
+    // a file size limit). So every byte is pushed out and synced here first,
+    // where a failure can still cancel.
+    const bool written = file.write(bytes) == bytes.size() && file.flush() &&
+                         file.error() == QFileDevice::NoError && syncToDisk(file);
+    if (!written) {
+        file.cancelWriting();
+        return false;
+    }
+    return file.commit();
 }
 
 bool ModFileIO::writeIcon(const Plane& mask, const Plane& image, int colourCount,
