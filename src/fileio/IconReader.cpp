@@ -3,6 +3,8 @@
 #include "fileio/IconDecoder.h"
 #include "fileio/IconLayout.h"
 
+#include <algorithm>
+#include <climits>
 #include <cmath>
 
 using namespace IconLayout;
@@ -35,6 +37,10 @@ QString depthSuffix(int bitCount) {
     }
 }
 
+// Every size a file can give fits an int; a longer run of digits stops
+// growing here instead of overflowing.
+constexpr double kNumberCeiling = 1e12;
+
 // The leading number of a text as the listing dialog reads it: blanks are
 // skipped, also between digits, one decimal point is taken, and the first
 // other character ends it. The value goes into an integer as every real
@@ -62,10 +68,11 @@ int leadingNumber(const QString& text) {
             value += text[i].digitValue() * place;
             place /= 10;
         } else {
-            value = std::min(value * 10 + text[i].digitValue(), 1e9);
+            value = std::min(value * 10 + text[i].digitValue(), kNumberCeiling);
         }
     }
-    return static_cast<int>(std::nearbyint(negative ? -value : value));
+    const double rounded = std::nearbyint(negative ? -value : value);
+    return static_cast<int>(std::clamp(rounded, double(INT_MIN), double(INT_MAX)));
 }
 
 IconLoadResult decoded(const ByteView& in, qint64 rowsOffset, int size, int depth,

@@ -55,10 +55,14 @@ TEST(IconReaderTest, ListingNamesEveryEntryBySizeAndDepthInDirectoryOrder) {
     EXPECT_EQ(IconReader::listIcons(file), expected);
 
     // Choosing a line reads the numbers before and after the first "x",
-    // rounding halves to even.
-    const std::tuple<QString, int, int> lines[] = {{"48 x 24.5 ... Monochrome", 48, 24},
-                                                   {"16 x 15.5 ... True Color", 16, 16},
-                                                   {"no size", 0, 0}};
+    // rounding halves to even; the largest sizes a file can give come back
+    // whole, so a refusal names them as the file does.
+    const std::tuple<QString, int, int> lines[] = {
+        {"48 x 24.5 ... Monochrome", 48, 24},
+        {"16 x 15.5 ... True Color", 16, 16},
+        {"no size", 0, 0},
+        {"2147483647 x 1000000000 ... True Color", 2147483647, 1000000000},
+        {"-2147483648 x 1073741823.5 ... Monochrome", -2147483648, 1073741824}};
     for (const auto& [text, width, height] : lines)
         EXPECT_EQ(IconReader::describeListLine(2, {text, 8}),
                   (IconDescription{2, 8, width, height}))
