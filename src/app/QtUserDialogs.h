@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/UserDialogs.h"
+#include "session/EditorDialogs.h"
 
 #include <memory>
 
@@ -9,7 +9,7 @@ class QWidget;
 
 // The program's questions as real dialogs: message boxes, the common file
 // dialog and the program's own small dialogs, each modal over the main window.
-class QtUserDialogs : public UserDialogs {
+class QtUserDialogs : public EditorDialogs {
   public:
     explicit QtUserDialogs(QWidget* owner) : owner_(owner) {}
 

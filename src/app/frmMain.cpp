@@ -24,10 +24,7 @@ using namespace MainLayout;
 
 namespace {
 
-Services servicesFor(UserDialogs* dialogs, ClipboardService* clipboard) {
-    Services services;
-    services.dialogs = dialogs;
-    services.clipboard = clipboard;
+void useQtEvents(Services& services) {
     services.processEvents = [] { QCoreApplication::processEvents(); };
     services.setBusy = [](bool busy) {
         if (busy)
@@ -35,7 +32,6 @@ Services servicesFor(UserDialogs* dialogs, ClipboardService* clipboard) {
         else
             QApplication::restoreOverrideCursor();
     };
-    return services;
 }
 
 QLabel* addLabel(QWidget* parent, const QString& name, const QRect& at, const QString& text = {}) {
@@ -55,11 +51,11 @@ QLabel* addImage(QWidget* parent, const QString& name, QPoint at, const QPixmap&
 
 } // namespace
 
-frmMain::frmMain(UserDialogs* dialogs, ClipboardService* clipboard)
+frmMain::frmMain(EditorDialogs* dialogs, ClipboardService* clipboard)
     : ownDialogs_(dialogs ? nullptr : std::make_unique<QtUserDialogs>(this)),
       ownClipboard_(clipboard ? nullptr : std::make_unique<QtClipboard>()),
-      editor_(servicesFor(dialogs ? dialogs : ownDialogs_.get(),
-                          clipboard ? clipboard : ownClipboard_.get())) {
+      editor_(dialogs ? *dialogs : *ownDialogs_, clipboard ? *clipboard : *ownClipboard_) {
+    useQtEvents(editor_.services());
     setObjectName("frmMain");
     setWindowIcon(ToolIcons::icon(1));
     setAcceptDrops(true);
@@ -74,8 +70,8 @@ frmMain::frmMain(UserDialogs* dialogs, ClipboardService* clipboard)
         PicMain->setEnabled(true);
         TmrEnable->stop();
     });
-    editor_.files.disableCanvas = [this] { PicMain->setEnabled(false); };
-    editor_.files.startEnableTimer = [this] { TmrEnable->start(); };
+    editor_.files().disableCanvas = [this] { PicMain->setEnabled(false); };
+    editor_.files().startEnableTimer = [this] { TmrEnable->start(); };
 }
 
 frmMain::~frmMain() = default;
@@ -88,13 +84,13 @@ void frmMain::buildClient() {
     PicMain->move(kCanvas);
     PicMain->setMouseTracking(true); // the read-out follows the pointer
     connect(PicMain, &PictureBox::mouseDown, this, [this](int button, QPointF p) {
-        run([&] { editor_.tools.mouseDown(button, qRound(p.x()), qRound(p.y())); });
+        run([&] { editor_.tools().mouseDown(button, qRound(p.x()), qRound(p.y())); });
     });
     connect(PicMain, &PictureBox::mouseMove, this, [this](int buttons, QPointF p) {
-        run([&] { editor_.tools.mouseMove(buttons, qRound(p.x()), qRound(p.y())); });
+        run([&] { editor_.tools().mouseMove(buttons, qRound(p.x()), qRound(p.y())); });
     });
     connect(PicMain, &PictureBox::mouseUp, this, [this](int button, QPointF p) {
-        run([&] { editor_.tools.mouseUp(button, qRound(p.x()), qRound(p.y())); });
+        run([&] { editor_.tools().mouseUp(button, qRound(p.x()), qRound(p.y())); });
     });
 
     PicIcon = new PictureBox(QStringLiteral("PicIcon"), client);
@@ -104,7 +100,7 @@ void frmMain::buildClient() {
     ReadoutToXY = addLabel(client, QStringLiteral("ReadoutToXY"), kReadoutToXYText);
     buildToolButtons(client);
 
-    const ColourPickers& pickers = editor_.pickers;
+    const ColourPickers& pickers = editor_.pickers();
     PicPal =
         addPicker(client, QStringLiteral("PicPal"), kPal, pickers.PicPal, ColourPickers::Chart);
     PicGreyPal = addPicker(client, QStringLiteral("PicGreyPal"), kGreyPal, pickers.PicGreyPal,
@@ -135,15 +131,16 @@ PictureBox* frmMain::addPicker(QWidget* client, const QString& name, QPoint at, 
     const auto which = static_cast<ColourPickers::Picker>(picker);
     connect(box, &PictureBox::mouseDown, this, [this, which](int button, QPointF p) {
         run([&] {
-            editor_.pickers.mouseDown(which, button, qRound(p.x()), qRound(p.y()), editor_.colours);
+            editor_.pickers().mouseDown(which, button, qRound(p.x()), qRound(p.y()),
+                                        editor_.colours());
         });
     });
     connect(box, &PictureBox::mouseMove, this, [this, which](int buttons, QPointF p) {
         if (buttons == 0)
             return;
         run([&] {
-            editor_.pickers.mouseMove(which, buttons, qRound(p.x()), qRound(p.y()),
-                                      editor_.colours);
+            editor_.pickers().mouseMove(which, buttons, qRound(p.x()), qRound(p.y()),
+                                        editor_.colours());
         });
     });
     return box;
@@ -165,7 +162,7 @@ void frmMain::buildToolButtons(QWidget* client) {
         button->setGeometry(toolCell(i).adjusted(inset, inset, -inset, -inset));
         group->addButton(button, i);
         connect(button, &QToolButton::clicked, this,
-                [this, i] { run([&] { editor_.tools.chooseTool(i); }); });
+                [this, i] { run([&] { editor_.tools().chooseTool(i); }); });
         OptTool[i] = button;
     }
 }
@@ -175,15 +172,15 @@ void frmMain::connectMenus() {
         connect(menus.MnuIconSize[i], &QAction::triggered, this,
                 [this, i] { run([&] { editor_.newIcon(i); }); });
     connect(menus.MnuOpen, &QAction::triggered, this,
-            [this] { run([&] { editor_.files.open(); }); });
+            [this] { run([&] { editor_.files().open(); }); });
     connect(menus.MnuSave, &QAction::triggered, this,
-            [this] { run([&] { editor_.files.save(); }); });
+            [this] { run([&] { editor_.files().save(); }); });
     connect(menus.MnuSaveAs, &QAction::triggered, this,
-            [this] { run([&] { editor_.files.saveAs(); }); });
+            [this] { run([&] { editor_.files().saveAs(); }); });
     connect(menus.MnuSaveAsBitmap, &QAction::triggered, this,
-            [this] { run([&] { editor_.files.saveAsBitmap(); }); });
+            [this] { run([&] { editor_.files().saveAsBitmap(); }); });
     connect(menus.MnuSaveAsCursor, &QAction::triggered, this,
-            [this] { run([&] { editor_.files.saveAsCursor(); }); });
+            [this] { run([&] { editor_.files().saveAsCursor(); }); });
     for (int i = 1; i < 5; ++i)
         connect(menus.MnuRecent[i], &QAction::triggered, this,
                 [this, i] { run([&] { editor_.recentClick(i); }); });
@@ -193,7 +190,7 @@ void frmMain::connectMenus() {
     for (int i = 0; i < 11; ++i)
         if (!menus.MnuEditAction[i]->isSeparator())
             connect(menus.MnuEditAction[i], &QAction::triggered, this,
-                    [this, i] { run([&] { editor_.editAction(i); }); });
+                    [this, i] { run([&] { editor_.editAction(static_cast<EditAction>(i)); }); });
     connect(menus.MnuEdit, &QMenu::aboutToShow, this, [this] { enableEditMenu(true); });
     // The greying is only shown while the menu is open: the shortcuts stay
     // live, and the core leaves alone what has nothing to act on.
@@ -210,7 +207,7 @@ template <typename Command> void frmMain::run(Command command) {
 
 void frmMain::refreshRecentMenu() {
     for (std::size_t i = 0; i < menus.MnuRecent.size(); ++i) {
-        const ModRecent::Item& item = editor_.recent.MnuRecent[i];
+        const ModRecent::Item& item = editor_.recent().MnuRecent[i];
         if (i > 0)
             menus.MnuRecent[i]->setText(item.caption);
         menus.MnuRecent[i]->setVisible(item.visible);
@@ -220,7 +217,8 @@ void frmMain::refreshRecentMenu() {
 void frmMain::enableEditMenu(bool asTheCoreSays) {
     for (int i = 0; i < 11; ++i)
         if (!menus.MnuEditAction[i]->isSeparator())
-            menus.MnuEditAction[i]->setEnabled(!asTheCoreSays || editor_.editActionEnabled(i));
+            menus.MnuEditAction[i]->setEnabled(
+                !asTheCoreSays || editor_.editActionEnabled(static_cast<EditAction>(i)));
 }
 
 QString frmMain::productHelpText() {
@@ -229,8 +227,8 @@ QString frmMain::productHelpText() {
 }
 
 void frmMain::showProductHelp() {
-    editor_.services.dialogs->showMessage(QStringLiteral("Brevik Deluxe"), productHelpText(),
-                                          MessageIcon::Information);
+    editor_.services().dialogs.showMessage(QStringLiteral("Brevik Deluxe"), productHelpText(),
+                                           MessageIcon::Information);
 }
 
 void frmMain::showAbout() {
@@ -256,20 +254,20 @@ void frmMain::startUp(const QString& commandLine) {
 }
 
 void frmMain::syncFromCore() {
-    const Canvas& canvas = editor_.canvas;
+    const Canvas& canvas = editor_.canvas();
     PicMain->setPlane(canvas.PicMain);
     PicIcon->setPlane(canvas.PicIcon);
     PicIcon->move(canvas.previewLeft, canvas.previewTop);
-    PicLeft->setPlane(ColourPickers::swatch(editor_.colours.value[0]));
-    PicRight->setPlane(ColourPickers::swatch(editor_.colours.value[1]));
-    ReadoutXY->setText(editor_.readoutXY);
-    ReadoutToXY->setText(editor_.readoutToXY);
-    setWindowTitle(editor_.windowTitle);
-    const int tool = editor_.tools.currentTool;
+    PicLeft->setPlane(ColourPickers::swatch(editor_.colours().value[0]));
+    PicRight->setPlane(ColourPickers::swatch(editor_.colours().value[1]));
+    ReadoutXY->setText(editor_.readoutXY());
+    ReadoutToXY->setText(editor_.readoutToXY());
+    setWindowTitle(editor_.windowTitle());
+    const int tool = editor_.tools().currentTool;
     if (tool >= 0 && tool < ToolIcons::kToolCount && !OptTool[tool]->isChecked())
         OptTool[tool]->setChecked(true);
-    if (editor_.tools.canvasCursorTool != shownCursorTool_) {
-        shownCursorTool_ = editor_.tools.canvasCursorTool;
+    if (editor_.tools().canvasCursorTool != shownCursorTool_) {
+        shownCursorTool_ = editor_.tools().canvasCursorTool;
         PicMain->setCursor(ToolIcons::cursor(shownCursorTool_));
     }
 }

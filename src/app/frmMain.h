@@ -1,7 +1,7 @@
 #pragma once
 
-#include "app/Editor.h"
 #include "app/MainMenus.h"
+#include "session/Editor.h"
 
 #include <QMainWindow>
 
@@ -21,7 +21,7 @@ class frmMain : public QMainWindow {
     // The editor asks its questions through dialogs and reaches the clipboard
     // through clipboard; when they are not given, the window answers with real
     // Qt dialogs and the system clipboard. A test passes doubles.
-    explicit frmMain(UserDialogs* dialogs = nullptr, ClipboardService* clipboard = nullptr);
+    explicit frmMain(EditorDialogs* dialogs = nullptr, ClipboardService* clipboard = nullptr);
     ~frmMain() override;
 
     // The window's load, in order: settings and the new 32 x 32 icon, the
@@ -73,7 +73,7 @@ class frmMain : public QMainWindow {
     // Runs a command of the core and shows its outcome.
     template <typename Command> void run(Command command);
 
-    std::unique_ptr<UserDialogs> ownDialogs_;
+    std::unique_ptr<EditorDialogs> ownDialogs_;
     std::unique_ptr<ClipboardService> ownClipboard_;
     Editor editor_;
     int shownCursorTool_ = -1;

@@ -38,9 +38,6 @@ void IconDocument::resize(int sizeIndex) {
     PicMask.reset(size, size, kWhite);
     PicSelImage.reset(size, size, kBlack);
     PicSelMask.reset(size, size, kWhite);
-    PicCol.reset(2 * size, size, kWhite);
-    for (auto& buffer : colourBuffers)
-        buffer.assign(static_cast<std::size_t>(size) * size, ColourWork{});
 }
 
 void IconDocument::clearToTransparent(int x1, int y1, int x2, int y2) {

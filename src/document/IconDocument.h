@@ -4,17 +4,6 @@
 
 #include <QString>
 
-#include <array>
-#include <cstdint>
-#include <vector>
-
-// One entry of the colour adjustment's work buffers.
-struct ColourWork {
-    std::int16_t red = 0;
-    std::int16_t green = 0;
-    std::int16_t blue = 0;
-};
-
 // The icon being edited: a square picture of 16, 32 or 48 pixels held as a
 // colour plane and a mask plane in the AND/XOR model of the icon formats.
 //   mask black            -> opaque, shows the colour
@@ -28,8 +17,8 @@ class IconDocument {
     static int indexForSize(int size);      // 16, 32, 48 -> 0, 1, 2; -1 otherwise
 
     // Gives the document the size of sizeIndex and makes every pixel
-    // transparent (colour black, mask white). The selection planes and the
-    // work plane follow the size.
+    // transparent (colour black, mask white). The selection planes follow
+    // the size.
     void resize(int sizeIndex);
 
     // Makes the area of a selection rectangle (x1, y1)-(x2, y2), in canvas
@@ -47,13 +36,12 @@ class IconDocument {
     Plane PicMask;
     Plane PicSelImage;
     Plane PicSelMask;
-    Plane PicCol;
 
     bool modified = false;
     bool hasFile = false;
     bool opening = false;
     QString filePath;
     QString fileTitle;
-
-    std::array<std::vector<ColourWork>, 3> colourBuffers;
+    // "Brevik - Untitled", or "Brevik - " and the file's name.
+    QString windowTitle = QStringLiteral("Brevik - Untitled");
 };

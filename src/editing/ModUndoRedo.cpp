@@ -11,11 +11,11 @@ void ModUndoRedo::Reset() {
 
 void ModUndoRedo::Push(IconDocument& doc) {
     const int n = doc.size;
-    doc.PicCol.reset(2 * n, n, kWhite);
-    bitBlt(doc.PicCol, 0, 0, n, n, doc.PicMask, 0, 0, RasterOp::Copy);
-    bitBlt(doc.PicCol, n, 0, n, n, doc.PicImage, 0, 0, RasterOp::Copy);
+    Plane snapshot(2 * n, n, kWhite);
+    bitBlt(snapshot, 0, 0, n, n, doc.PicMask, 0, 0, RasterOp::Copy);
+    bitBlt(snapshot, n, 0, n, n, doc.PicImage, 0, 0, RasterOp::Copy);
     ++UndoCounter;
-    UndoStack.push_back({QString::number(UndoCounter), doc.PicCol});
+    UndoStack.push_back({QString::number(UndoCounter), std::move(snapshot)});
 }
 
 void ModUndoRedo::ClearRedo() {
@@ -46,7 +46,6 @@ bool ModUndoRedo::Redo(IconDocument& doc) {
 
 void ModUndoRedo::restore(IconDocument& doc, const Plane& snapshot) {
     const int n = doc.size;
-    doc.PicCol = snapshot;
-    bitBlt(doc.PicMask, 0, 0, n, n, doc.PicCol, 0, 0, RasterOp::Copy);
-    bitBlt(doc.PicImage, 0, 0, n, n, doc.PicCol, n, 0, RasterOp::Copy);
+    bitBlt(doc.PicMask, 0, 0, n, n, snapshot, 0, 0, RasterOp::Copy);
+    bitBlt(doc.PicImage, 0, 0, n, n, snapshot, n, 0, RasterOp::Copy);
 }

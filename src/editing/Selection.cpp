@@ -1,11 +1,15 @@
 #include "editing/Selection.h"
 
-#include "app/Editor.h"
+#include "canvas/Canvas.h"
+#include "document/IconDocument.h"
+#include "editing/EditContext.h"
+#include "editing/EditingDialogs.h"
 #include "editing/PasteFit.h"
 #include "platform/Raster.h"
+#include "platform/Services.h"
 
 void Selection::LiftSelection() {
-    IconDocument& doc = editor_.doc;
+    IconDocument& doc = context_.doc();
     const int zoom = doc.zoom;
     const int w = (SelRect.Right - SelRect.Left) / zoom;
     const int h = (SelRect.Bottom - SelRect.Top) / zoom;
@@ -17,9 +21,9 @@ void Selection::LiftSelection() {
 }
 
 void Selection::BeginMove() {
-    editor_.doc.clearToTransparent(SelRect.Left, SelRect.Top, SelRect.Right, SelRect.Bottom);
+    context_.doc().clearToTransparent(SelRect.Left, SelRect.Top, SelRect.Right, SelRect.Bottom);
     // The refresh repaints the preview too, so it shows the cleared area.
-    editor_.refresh();
+    context_.refresh();
     SelMarked = false;
     SelFloating = true;
 }
@@ -33,7 +37,7 @@ void Selection::EndSelectionMark() {
 
 void Selection::CommitSelection() {
     EndSelectionMark();
-    IconDocument& doc = editor_.doc;
+    IconDocument& doc = context_.doc();
     const int zoom = doc.zoom;
     const int x = SelRect.Left / zoom, y = SelRect.Top / zoom;
     const int w = doc.PicSelMask.width(), h = doc.PicSelMask.height();
@@ -42,16 +46,16 @@ void Selection::CommitSelection() {
     bitBlt(doc.PicMask, x, y, w, h, doc.PicSelMask, 0, 0, RasterOp::And);
     // A redraw, not a change: a selection that was only marked leaves the
     // document as unmodified as it was.
-    editor_.canvas.compose(doc);
+    context_.canvas().compose(doc);
     SelRect = Rect{};
     if (!SelUnchanged)
-        editor_.recordEdit();
+        context_.recordEdit();
     SelUnchanged = false;
 }
 
 void Selection::SelectAll() {
-    editor_.commitSelection();
-    editor_.tools.chooseTool(DrawingTools::Select);
+    context_.commitSelection();
+    context_.chooseSelectTool();
     SelRect = Rect{0, 0, Canvas::kCanvasSize, Canvas::kCanvasSize};
     drawMarquee();
     LiftSelection();
@@ -61,13 +65,13 @@ void Selection::SelectAll() {
 void Selection::Delete(bool marked) {
     EndSelectionMark();
     if (marked)
-        editor_.doc.clearToTransparent(SelRect.Left, SelRect.Top, SelRect.Right, SelRect.Bottom);
+        context_.doc().clearToTransparent(SelRect.Left, SelRect.Top, SelRect.Right, SelRect.Bottom);
     // Redrawn from the planes in both cases: dropped floating contents must
     // not stay on the canvas.
-    editor_.refresh();
+    context_.refresh();
     SelRect = Rect{};
-    editor_.recordEdit();
-    editor_.doc.modified = true;
+    context_.recordEdit();
+    context_.doc().modified = true;
 }
 
 void Selection::Cut() {
@@ -78,45 +82,42 @@ void Selection::Cut() {
 }
 
 void Selection::Copy() {
-    const IconDocument& doc = editor_.doc;
+    const IconDocument& doc = context_.doc();
     const int w = doc.PicSelMask.width(), h = doc.PicSelMask.height();
     // Over the white background transparent pixels come out white.
     PicClip.reset(w, h, kWhite);
     bitBlt(PicClip, 0, 0, w, h, doc.PicSelMask, 0, 0, RasterOp::And);
     bitBlt(PicClip, 0, 0, w, h, doc.PicSelImage, 0, 0, RasterOp::Xor);
-    if (editor_.services.clipboard)
-        editor_.services.clipboard->setImage(PicClip);
+    context_.services().clipboard.setImage(PicClip);
 }
 
 void Selection::Paste(bool opaque) {
-    PicClip = Plane();
-    if (editor_.services.clipboard)
-        PicClip = editor_.services.clipboard->image();
+    PicClip = context_.services().clipboard.image();
     // Reached through the shortcut while the menu item is greyed: there is
     // nothing to paste, and the document and selection stay as they are.
     if (PicClip.isEmpty())
         return;
     const int cw = PicClip.width(), ch = PicClip.height();
-    const int iw = editor_.canvas.PicIcon.width(), ih = editor_.canvas.PicIcon.height();
+    const int iw = context_.canvas().PicIcon.width(), ih = context_.canvas().PicIcon.height();
     if (cw > iw || ch > ih) {
-        PasteChoice = editor_.services.dialogs ? editor_.services.dialogs->choosePasteOption() : -1;
-        editor_.services.letEventsRun();
+        PasteChoice = dialogs_.choosePasteOption();
+        context_.services().letEventsRun();
         if (PasteChoice != 0 && PasteChoice != 1)
             return;
-        editor_.commitSelection();
+        context_.commitSelection();
         const PasteFit size =
             PasteChoice == 0 ? PasteFit{iw, ih} : PasteFit::keepingAspect(cw, ch, iw, ih);
         PrepareFloating(size.width, size.height, true, opaque);
     } else {
-        editor_.commitSelection();
+        context_.commitSelection();
         PrepareFloating(cw, ch, false, opaque);
     }
     PlaceFloating();
-    editor_.doc.modified = true;
+    context_.doc().modified = true;
 }
 
 void Selection::PrepareFloating(int width, int height, bool stretch, bool opaque) {
-    IconDocument& doc = editor_.doc;
+    IconDocument& doc = context_.doc();
     // The clipboard picture at the selection's size, as every step below
     // samples it.
     Plane source(width, height, kWhite);
@@ -142,20 +143,20 @@ void Selection::PrepareFloating(int width, int height, bool stretch, bool opaque
 }
 
 void Selection::PlaceFloating() {
-    const IconDocument& doc = editor_.doc;
+    const IconDocument& doc = context_.doc();
     SelRect = Rect{0, 0, doc.zoom * doc.PicSelMask.width(), doc.zoom * doc.PicSelMask.height()};
-    editor_.canvas.drawFloating(doc, SelRect.Left, SelRect.Top, SelRect.Right, SelRect.Bottom);
+    context_.canvas().drawFloating(doc, SelRect.Left, SelRect.Top, SelRect.Right, SelRect.Bottom);
     drawMarquee();
     // Floating only after the tool choice, whose commit must find nothing.
-    editor_.tools.chooseTool(DrawingTools::Select);
+    context_.chooseSelectTool();
     SelFloating = true;
 }
 
 void Selection::drawMarquee() {
-    editor_.canvas.drawSelectionRect(SelRect.Left, SelRect.Top, SelRect.Right, SelRect.Bottom);
+    context_.canvas().drawSelectionRect(SelRect.Left, SelRect.Top, SelRect.Right, SelRect.Bottom);
 }
 
 void Selection::redrawFloating() {
-    editor_.canvas.refreshWithFloating(editor_.doc, SelRect.Left, SelRect.Top, SelRect.Right,
-                                       SelRect.Bottom);
+    context_.canvas().refreshWithFloating(context_.doc(), SelRect.Left, SelRect.Top, SelRect.Right,
+                                          SelRect.Bottom);
 }

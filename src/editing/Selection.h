@@ -2,7 +2,8 @@
 
 #include "platform/Plane.h"
 
-class Editor;
+class EditContext;
+class EditingDialogs;
 
 // The one rectangular selection: marked (still part of the document) or
 // floating (held only in the document's PicSelImage and PicSelMask), with the
@@ -14,7 +15,8 @@ class Selection {
         int Left = -1, Top = -1, Right = -1, Bottom = -1;
     };
 
-    explicit Selection(Editor& editor) : editor_(editor) {}
+    Selection(EditContext& context, EditingDialogs& dialogs)
+        : context_(context), dialogs_(dialogs) {}
 
     bool exists() const { return SelMarked || SelFloating; }
 
@@ -65,5 +67,6 @@ class Selection {
     Plane PicClip;
 
   private:
-    Editor& editor_;
+    EditContext& context_;
+    EditingDialogs& dialogs_;
 };

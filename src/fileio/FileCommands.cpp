@@ -1,10 +1,15 @@
 #include "fileio/FileCommands.h"
 
-#include "app/Editor.h"
+#include "canvas/Canvas.h"
+#include "document/IconDocument.h"
+#include "editing/EditContext.h"
+#include "editing/ModUndoRedo.h"
 #include "fileio/IconReader.h"
 #include "fileio/ModFileIO.h"
 #include "fileio/ModPalette.h"
 #include "platform/Raster.h"
+#include "platform/Services.h"
+#include "settings/ModRecent.h"
 
 #include <QFileInfo>
 
@@ -38,8 +43,7 @@ bool FileCommands::openPath(const QString& path, const QString& title) {
 }
 
 bool FileCommands::runOpen(const std::optional<FileChoice>& handedIn) {
-    editor_.commitSelection();
-    if (editor_.doc.modified && !saveChangesPrompt())
+    if (!context_.mayReplaceDocument())
         return false;
     if (disableCanvas)
         disableCanvas();
@@ -52,7 +56,7 @@ bool FileCommands::runOpen(const std::optional<FileChoice>& handedIn) {
 }
 
 bool FileCommands::loadIcons(const FileChoice& file) {
-    IconDocument& doc = editor_.doc;
+    IconDocument& doc = context_.doc();
     if (!ModFileIO::isIconFile(file.path)) {
         showError(file.title + QStringLiteral(" is not a valid icon file."));
         return false;
@@ -73,7 +77,7 @@ bool FileCommands::loadIcons(const FileChoice& file) {
         QStringList texts;
         for (const IconListLine& line : *lines)
             texts << line.text;
-        const int chosen = editor_.services.dialogs->chooseIconLine(texts);
+        const int chosen = dialogs_.chooseIconLine(texts);
         if (chosen >= 0 && chosen < static_cast<int>(lines->size()))
             description = IconReader::describeListLine(chosen, (*lines)[chosen]);
         if (description.width == 0) {
@@ -87,9 +91,9 @@ bool FileCommands::loadIcons(const FileChoice& file) {
         loaded = ModFileIO::loadSingleIcon(file.path);
     }
     if (!loaded.ok()) {
-        editor_.services.dialogs->showMessage(ModFileIO::errorTitle(),
-                                              ModFileIO::loadMessage(loaded, count > 1),
-                                              MessageIcon::Exclamation);
+        userDialogs().showMessage(ModFileIO::errorTitle(),
+                                  ModFileIO::loadMessage(loaded, count > 1),
+                                  MessageIcon::Exclamation);
         return false;
     }
     install(loaded);
@@ -98,40 +102,40 @@ bool FileCommands::loadIcons(const FileChoice& file) {
         multiImage = true;
     }
 
-    editor_.undoRedo.Reset();
-    editor_.undoRedo.Push(doc);
-    editor_.windowTitle = QStringLiteral("Brevik - ") + file.title;
+    context_.undoRedo().Reset();
+    context_.undoRedo().Push(doc);
+    doc.windowTitle = QStringLiteral("Brevik - ") + file.title;
     doc.filePath = file.path;
     doc.fileTitle = file.title;
-    editor_.recent.AddRecent(file.path);
+    recent_.AddRecent(file.path);
     doc.hasFile = true;
     return true;
 }
 
 void FileCommands::install(const IconLoadResult& loaded) {
-    IconDocument& doc = editor_.doc;
+    IconDocument& doc = context_.doc();
     // Open has already offered to save; whatever the answer, the old
     // picture is being replaced and New must not ask again.
     doc.modified = false;
     doc.opening = true;
-    editor_.newIcon(IconDocument::indexForSize(loaded.width));
+    context_.newIcon(IconDocument::indexForSize(loaded.width));
     doc.opening = false;
     bitBlt(doc.PicMask, 0, 0, doc.size, doc.size, loaded.mask, 0, 0, RasterOp::Copy);
     bitBlt(doc.PicImage, 0, 0, doc.size, doc.size, loaded.image, 0, 0, RasterOp::Copy);
     // Composed, not refreshed: a freshly opened file is not modified.
-    editor_.canvas.compose(doc);
+    context_.canvas().compose(doc);
 }
 
 bool FileCommands::save() {
-    IconDocument& doc = editor_.doc;
+    IconDocument& doc = context_.doc();
     if (doc.filePath.isEmpty()) {
         saveAs();
         return saveSucceeded;
     }
-    editor_.commitSelection();
-    setBusy(true);
+    context_.commitSelection();
+    context_.services().showBusy(true);
     const bool written = writeDocument(doc.filePath, QString());
-    setBusy(false);
+    context_.services().showBusy(false);
     if (!written) {
         saveSucceeded = false;
         showError(QStringLiteral("Unable to save the file ") + doc.fileTitle);
@@ -146,11 +150,11 @@ void FileCommands::saveAs() {
     const std::optional<FileChoice> file = chooseFile(FileDialogMode::SaveAs);
     if (!file)
         return;
-    IconDocument& doc = editor_.doc;
-    editor_.commitSelection();
-    setBusy(true);
+    IconDocument& doc = context_.doc();
+    context_.commitSelection();
+    context_.services().showBusy(true);
     const bool written = writeDocument(doc.filePath, file->path);
-    setBusy(false);
+    context_.services().showBusy(false);
     if (!written) {
         saveSucceeded = false;
         showError(QStringLiteral("Unable to save the file ") + file->title);
@@ -158,14 +162,14 @@ void FileCommands::saveAs() {
     }
     doc.filePath = file->path;
     doc.fileTitle = file->title;
-    editor_.windowTitle = QStringLiteral("Brevik - ") + file->title;
-    editor_.recent.AddRecent(file->path);
+    doc.windowTitle = QStringLiteral("Brevik - ") + file->title;
+    recent_.AddRecent(file->path);
     saveSucceeded = true;
     doc.modified = false;
 }
 
 bool FileCommands::writeDocument(const QString& source, const QString& destination) {
-    const IconDocument& doc = editor_.doc;
+    const IconDocument& doc = context_.doc();
     const int colours = ModPalette::countColours(doc.PicImage, true);
     if (multiImage)
         return ModFileIO::rewriteMultiIcon(doc.PicMask, doc.PicImage, colours, currentIcon, source,
@@ -178,8 +182,8 @@ void FileCommands::saveAsBitmap() {
     const std::optional<FileChoice> file = chooseFile(FileDialogMode::SaveAsBitmap);
     if (!file)
         return;
-    editor_.commitSelection();
-    const IconDocument& doc = editor_.doc;
+    context_.commitSelection();
+    const IconDocument& doc = context_.doc();
     // The picture as it shows over a white background: transparent pixels
     // become white, inverting ones white XOR their colour.
     Plane PicClip(doc.size, doc.size, kWhite);
@@ -191,15 +195,15 @@ void FileCommands::saveAsBitmap() {
 }
 
 void FileCommands::saveAsCursor() {
-    const std::optional<HotSpot> hotSpot = editor_.services.dialogs->chooseHotSpot(
-        editor_.canvas.PicMain, editor_.doc.zoom, editor_.doc.maxIndex);
+    const std::optional<HotSpot> hotSpot = dialogs_.chooseHotSpot(
+        context_.canvas().PicMain, context_.doc().zoom, context_.doc().maxIndex);
     if (!hotSpot)
         return;
     const std::optional<FileChoice> file = chooseFile(FileDialogMode::SaveAsCursor);
     if (!file)
         return;
-    editor_.commitSelection();
-    const IconDocument& doc = editor_.doc;
+    context_.commitSelection();
+    const IconDocument& doc = context_.doc();
     const int colours = ModPalette::countColours(doc.PicImage, true);
     if (!ModFileIO::writeCursor(doc.PicMask, doc.PicImage, colours, hotSpot->x, hotSpot->y,
                                 file->path))
@@ -207,9 +211,9 @@ void FileCommands::saveAsCursor() {
 }
 
 bool FileCommands::saveChangesPrompt() {
-    IconDocument& doc = editor_.doc;
+    IconDocument& doc = context_.doc();
     const QString name = doc.fileTitle.isEmpty() ? QStringLiteral("Untitled.ico") : doc.fileTitle;
-    const PromptAnswer answer = editor_.services.dialogs->askYesNoCancel(
+    const PromptAnswer answer = userDialogs().askYesNoCancel(
         QStringLiteral("Brevik - Save Changes?"),
         QStringLiteral("Save changes to ") + name + QStringLiteral("?"));
     switch (answer) {
@@ -228,18 +232,16 @@ bool FileCommands::saveChangesPrompt() {
 }
 
 std::optional<FileChoice> FileCommands::chooseFile(FileDialogMode mode) {
-    std::optional<FileChoice> choice =
-        editor_.services.dialogs->chooseFile(mode, editor_.recentFolder);
+    std::optional<FileChoice> choice = userDialogs().chooseFile(mode, recentFolder_);
     if (choice)
-        editor_.recentFolder = QFileInfo(choice->path).absolutePath();
+        recentFolder_ = QFileInfo(choice->path).absolutePath();
     return choice;
 }
 
-void FileCommands::setBusy(bool busy) {
-    if (editor_.services.setBusy)
-        editor_.services.setBusy(busy);
+UserDialogs& FileCommands::userDialogs() {
+    return context_.services().dialogs;
 }
 
 void FileCommands::showError(const QString& text) {
-    editor_.services.dialogs->showMessage(kErrorTitle, text, MessageIcon::Exclamation);
+    userDialogs().showMessage(kErrorTitle, text, MessageIcon::Exclamation);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "fileio/FileDialogs.h"
 #include "fileio/IconFileTypes.h"
 #include "platform/UserDialogs.h"
 
@@ -9,13 +10,18 @@
 #include <functional>
 #include <optional>
 
-class Editor;
+class EditContext;
+class ModRecent;
 
 // The File menu's Open, Save, Save As, Save As Bitmap and Save As Cursor,
 // the save-changes prompt and the file dialog they all open.
 class FileCommands {
   public:
-    explicit FileCommands(Editor& editor) : editor_(editor) {}
+    // recentFolder is where the file dialogs open; a chosen file's folder
+    // becomes the new one.
+    FileCommands(EditContext& context, FileDialogs& dialogs, ModRecent& recent,
+                 QString& recentFolder)
+        : context_(context), dialogs_(dialogs), recent_(recent), recentFolder_(recentFolder) {}
 
     // File > Open with its dialog.
     void open();
@@ -63,7 +69,10 @@ class FileCommands {
     // The icon, or the whole multi-image file, to path; source is the file
     // the other images come from.
     bool writeDocument(const QString& source, const QString& destination);
-    void setBusy(bool busy);
+    UserDialogs& userDialogs();
 
-    Editor& editor_;
+    EditContext& context_;
+    FileDialogs& dialogs_;
+    ModRecent& recent_;
+    QString& recentFolder_;
 };

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/UserDialogs.h"
+#include "fileio/FileDialogs.h"
 
 #include <QString>
 

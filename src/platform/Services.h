@@ -6,10 +6,13 @@
 #include <functional>
 
 // What the editor needs from the world outside its own state. The program
-// plugs in Qt; a test plugs in doubles.
+// plugs in Qt; a test plugs in doubles; a run without a window plugs in
+// dialogs that cancel and a clipboard of its own.
 struct Services {
-    UserDialogs* dialogs = nullptr;
-    ClipboardService* clipboard = nullptr;
+    Services(UserDialogs& d, ClipboardService& c) : dialogs(d), clipboard(c) {}
+
+    UserDialogs& dialogs;
+    ClipboardService& clipboard;
     // Lets pending window events run; the program sets it to
     // QCoreApplication::processEvents, tests leave it empty.
     std::function<void()> processEvents;
@@ -22,5 +25,9 @@ struct Services {
     void letEventsRun() const {
         if (processEvents)
             processEvents();
+    }
+    void showBusy(bool busy) const {
+        if (setBusy)
+            setBusy(busy);
     }
 };

@@ -1,9 +1,6 @@
 #pragma once
 
-#include "platform/Plane.h"
-
 #include <QString>
-#include <QStringList>
 
 #include <optional>
 
@@ -19,13 +16,10 @@ struct FileChoice {
     int filterIndex = 1;
 };
 
-struct HotSpot {
-    int x = 0;
-    int y = 0;
-};
-
-// Every modal question the program asks goes through here. The program
-// answers with real Qt dialogs; tests answer with a scripted double.
+// The generic modal questions: a message, Yes / No / Cancel and the common
+// file dialog. The subsystems' own dialogs have ports beside them
+// (FileDialogs, EditingDialogs). The program answers with real Qt dialogs;
+// tests answer with a scripted double.
 class UserDialogs {
   public:
     virtual ~UserDialogs() = default;
@@ -36,10 +30,4 @@ class UserDialogs {
     // Empty when the user cancels. startFolder is where the dialog opens.
     virtual std::optional<FileChoice> chooseFile(FileDialogMode mode,
                                                  const QString& startFolder) = 0;
-    // "Multi Icon Resource": the chosen line's index, or -1 on Cancel.
-    virtual int chooseIconLine(const QStringList& lines) = 0;
-    // "Paste Options": 0 "Shrink To Fit", 1 "Shrink To Fit (Keep Aspect)", -1 cancelled.
-    virtual int choosePasteOption() = 0;
-    // "Select Hot Spot", shown over the zoomed canvas; empty when cancelled.
-    virtual std::optional<HotSpot> chooseHotSpot(const Plane& canvas, int zoom, int maxIndex) = 0;
 };

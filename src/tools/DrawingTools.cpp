@@ -1,7 +1,12 @@
 #include "tools/DrawingTools.h"
 
-#include "app/Editor.h"
+#include "canvas/Canvas.h"
 #include "canvas/Coordinates.h"
+#include "document/IconDocument.h"
+#include "editing/EditContext.h"
+#include "editing/ModUndoRedo.h"
+#include "tools/ButtonColours.h"
+#include "tools/Readouts.h"
 
 #include <algorithm>
 
@@ -21,8 +26,10 @@ int withinReach(int v) {
 
 } // namespace
 
-DrawingTools::DrawingTools(Editor& editor)
-    : select(editor), editor_(editor), env_(editor), freehand_(env_), sample_(env_),
+DrawingTools::DrawingTools(EditContext& context, ButtonColours& colours, const Plane& colourChart,
+                           Readouts& readouts)
+    : select(context, readouts), context_(context), colours_(colours), readouts_(readouts),
+      env_(context, *this, colours, colourChart, readouts), freehand_(env_), sample_(env_),
       flood_(env_), shapes_{{ShapeTool(env_, Figure::Line, Inside::Hollow),
                              ShapeTool(env_, Figure::Box, Inside::Hollow),
                              ShapeTool(env_, Figure::Ellipse, Inside::Hollow),
@@ -39,7 +46,7 @@ void DrawingTools::chooseTool(int index) {
     if (currentTool != Select && currentTool != Erase && currentTool != Sample)
         previousTool = currentTool;
     currentTool = index;
-    editor_.commitSelection();
+    context_.commitSelection();
     const bool ownIcon = index == Pencil || index == Erase || index == Sample || index == Flood;
     canvasCursorTool = ownIcon ? index : Select;
 }
@@ -68,8 +75,8 @@ CanvasTool* DrawingTools::toolFor(int index) {
 }
 
 void DrawingTools::showPointer(int x, int y) {
-    const int zoom = editor_.doc.zoom;
-    editor_.readoutXY =
+    const int zoom = context_.doc().zoom;
+    readouts_.xy =
         Coordinates::pointText(Coordinates::iconPixel(x, zoom), Coordinates::iconPixel(y, zoom));
 }
 
@@ -82,11 +89,11 @@ void DrawingTools::mouseDown(int button, int x, int y) {
     const int tool = currentTool;
     // Select and Sample leave the picture alone, so the redo history stays.
     if (tool != Select && tool != Sample)
-        editor_.undoRedo.ClearRedo();
+        context_.undoRedo().ClearRedo();
     const int index = button - 1;
     gesture_.buttonIndex = index;
-    gesture_.colour = DrawingColour::of(editor_.colours.value[index], tool == Erase);
-    gesture_.other = DrawingColour::of(editor_.colours.value[1 - index], false);
+    gesture_.colour = DrawingColour::of(colours_.value[index], tool == Erase);
+    gesture_.other = DrawingColour::of(colours_.value[1 - index], false);
     gesture_.startX = x;
     gesture_.startY = y;
     pressedButton_ = button;
@@ -104,7 +111,7 @@ void DrawingTools::mouseMove(int button, int x, int y) {
     showPointer(x, y);
     if (button == 0 || !drawing())
         return;
-    editor_.readoutToXY = editor_.readoutXY;
+    readouts_.toXY = readouts_.xy;
     if (activeTool_ == Select)
         select.mouseMove(x, y);
     else
@@ -121,5 +128,5 @@ void DrawingTools::mouseUp(int button, int x, int y) {
     }
     toolFor(activeTool_)->end(gesture_);
     if (activeTool_ != Sample)
-        editor_.recordEdit();
+        context_.recordEdit();
 }

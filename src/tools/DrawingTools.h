@@ -10,7 +10,8 @@
 
 #include <array>
 
-class Editor;
+class EditContext;
+struct Readouts;
 
 // The tool buttons OptTool 0..11 and what the mouse does on the canvas with
 // each of them. The steps every gesture shares (which buttons count, the redo
@@ -34,7 +35,8 @@ class DrawingTools {
         ToolCount
     };
 
-    explicit DrawingTools(Editor& editor);
+    DrawingTools(EditContext& context, ButtonColours& colours, const Plane& colourChart,
+                 Readouts& readouts);
 
     // A click on OptTool(index).
     void chooseTool(int index);
@@ -63,7 +65,9 @@ class DrawingTools {
     CanvasTool* toolFor(int index);
     void showPointer(int x, int y);
 
-    Editor& editor_;
+    EditContext& context_;
+    ButtonColours& colours_;
+    Readouts& readouts_;
     ToolEnvironment env_;
     FreehandTool freehand_;
     SampleTool sample_;

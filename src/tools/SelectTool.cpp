@@ -1,15 +1,19 @@
 #include "tools/SelectTool.h"
 
-#include "app/Editor.h"
+#include "canvas/Canvas.h"
 #include "canvas/Coordinates.h"
+#include "document/IconDocument.h"
+#include "editing/EditContext.h"
+#include "editing/Selection.h"
 #include "platform/Raster.h"
+#include "tools/Readouts.h"
 
 #include <cstdlib>
 #include <utility>
 
 void SelectTool::mouseDown(int x, int y) {
-    Selection& sel = editor_.selection;
-    const int zoom = editor_.doc.zoom;
+    Selection& sel = context_.selection();
+    const int zoom = context_.doc().zoom;
     x = Coordinates::cellCorner(x, zoom);
     y = Coordinates::cellCorner(y, zoom);
     const Selection::Rect& r = sel.SelRect;
@@ -25,7 +29,7 @@ void SelectTool::mouseDown(int x, int y) {
         dragTo(x, y);
         return;
     }
-    editor_.commitSelection();
+    context_.commitSelection();
     marking = true;
     sel.SelRect = Selection::Rect{x, y, x, y};
     sel.drawMarquee();
@@ -34,7 +38,7 @@ void SelectTool::mouseDown(int x, int y) {
 void SelectTool::mouseMove(int x, int y) {
     if (!dragging && !marking)
         return;
-    const int zoom = editor_.doc.zoom;
+    const int zoom = context_.doc().zoom;
     x = Coordinates::cellCorner(x, zoom);
     y = Coordinates::cellCorner(y, zoom);
     // A moved selection may follow the pointer off the canvas; a marked
@@ -46,26 +50,26 @@ void SelectTool::mouseMove(int x, int y) {
 }
 
 void SelectTool::mouseUp(int, int) {
-    Selection& sel = editor_.selection;
+    Selection& sel = context_.selection();
     if (dragging) {
         // Each move restored the canvas without the marquee, so this draws
         // it around the selection's new place.
         sel.drawMarquee();
         dragging = false;
-        editor_.doc.modified = true;
+        context_.doc().modified = true;
     } else if (marking) {
         finishMarking();
     }
 }
 
 void SelectTool::dragTo(int x, int y) {
-    Selection& sel = editor_.selection;
-    IconDocument& doc = editor_.doc;
-    Canvas& canvas = editor_.canvas;
+    Selection& sel = context_.selection();
+    IconDocument& doc = context_.doc();
+    Canvas& canvas = context_.canvas();
     Selection::Rect& r = sel.SelRect;
     r = Selection::Rect{x - offsetLeft_, y - offsetTop_, x + offsetRight_, y + offsetBottom_};
     const int zoom = doc.zoom;
-    editor_.readoutToXY = Coordinates::pointText(r.Left / zoom, r.Top / zoom);
+    readouts_.toXY = Coordinates::pointText(r.Left / zoom, r.Top / zoom);
     bitBlt(canvas.PicMain, 0, 0, Canvas::kCanvasSize, Canvas::kCanvasSize, canvas.PicMainCopy, 0, 0,
            RasterOp::Copy);
     // The preview, too, starts again from the planes so the selection leaves
@@ -75,18 +79,18 @@ void SelectTool::dragTo(int x, int y) {
 }
 
 void SelectTool::markTo(int x, int y) {
-    Selection& sel = editor_.selection;
+    Selection& sel = context_.selection();
     sel.drawMarquee();
     sel.SelRect.Right = x;
     sel.SelRect.Bottom = y;
     sel.drawMarquee();
-    const int zoom = editor_.doc.zoom;
-    editor_.readoutToXY = Coordinates::sizeText(std::abs(x - sel.SelRect.Left) / zoom,
-                                                std::abs(y - sel.SelRect.Top) / zoom);
+    const int zoom = context_.doc().zoom;
+    readouts_.toXY = Coordinates::sizeText(std::abs(x - sel.SelRect.Left) / zoom,
+                                           std::abs(y - sel.SelRect.Top) / zoom);
 }
 
 void SelectTool::finishMarking() {
-    Selection& sel = editor_.selection;
+    Selection& sel = context_.selection();
     Selection::Rect& r = sel.SelRect;
     marking = false;
     sel.drawMarquee();
@@ -94,7 +98,7 @@ void SelectTool::finishMarking() {
         std::swap(r.Left, r.Right);
     if (r.Top > r.Bottom)
         std::swap(r.Top, r.Bottom);
-    editor_.readoutToXY.clear();
+    readouts_.toXY.clear();
     if (r.Right == r.Left || r.Bottom == r.Top) {
         // A rectangle with no area is no selection.
         r = Selection::Rect{};

@@ -1,13 +1,14 @@
 #pragma once
 
-class Editor;
+class EditContext;
+struct Readouts;
 
 // The Select tool's mouse handling: marking a rectangle on the grid, and
 // dragging a marked or floating selection. The selection itself (its planes,
 // lifting and committing) is Selection's.
 class SelectTool {
   public:
-    explicit SelectTool(Editor& editor) : editor_(editor) {}
+    SelectTool(EditContext& context, Readouts& readouts) : context_(context), readouts_(readouts) {}
 
     // Canvas pixels; called by DrawingTools for button 1 or 2 only.
     void mouseDown(int x, int y);
@@ -27,5 +28,6 @@ class SelectTool {
     // From the pressed point to the selection's four sides, so a drag keeps
     // its size.
     int offsetLeft_ = 0, offsetTop_ = 0, offsetRight_ = 0, offsetBottom_ = 0;
-    Editor& editor_;
+    EditContext& context_;
+    Readouts& readouts_;
 };

@@ -1,37 +1,40 @@
 #include "tools/ToolEnvironment.h"
 
-#include "app/Editor.h"
+#include "editing/EditContext.h"
+#include "platform/Services.h"
+#include "tools/DrawingTools.h"
+#include "tools/Readouts.h"
 
 IconDocument& ToolEnvironment::document() const {
-    return editor_.doc;
+    return context_.doc();
 }
 Canvas& ToolEnvironment::canvas() const {
-    return editor_.canvas;
+    return context_.canvas();
 }
 ButtonColours& ToolEnvironment::colours() const {
-    return editor_.colours;
+    return colours_;
 }
 const Plane& ToolEnvironment::colourChart() const {
-    return editor_.pickers.PicPal;
+    return colourChart_;
 }
 
 double ToolEnvironment::random() const {
-    return editor_.services.random();
+    return context_.services().random();
 }
 void ToolEnvironment::letEventsRun() const {
-    editor_.services.letEventsRun();
+    context_.services().letEventsRun();
 }
 
 void ToolEnvironment::refresh() const {
-    editor_.refresh();
+    context_.refresh();
 }
 void ToolEnvironment::clearDragReadout() const {
-    editor_.readoutToXY.clear();
+    readouts_.toXY.clear();
 }
 
 int ToolEnvironment::previousTool() const {
-    return editor_.tools.previousTool;
+    return tools_.previousTool;
 }
 void ToolEnvironment::chooseTool(int index) const {
-    editor_.tools.chooseTool(index);
+    tools_.chooseTool(index);
 }

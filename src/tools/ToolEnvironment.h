@@ -3,7 +3,9 @@
 #include "platform/Plane.h"
 
 class Canvas;
-class Editor;
+class DrawingTools;
+class EditContext;
+struct Readouts;
 class IconDocument;
 struct ButtonColours;
 
@@ -12,7 +14,10 @@ struct ButtonColours;
 // growing into menu commands.
 class ToolEnvironment {
   public:
-    explicit ToolEnvironment(Editor& editor) : editor_(editor) {}
+    ToolEnvironment(EditContext& context, DrawingTools& tools, ButtonColours& colours,
+                    const Plane& colourChart, Readouts& readouts)
+        : context_(context), tools_(tools), colours_(colours), colourChart_(colourChart),
+          readouts_(readouts) {}
 
     IconDocument& document() const;
     Canvas& canvas() const;
@@ -34,5 +39,9 @@ class ToolEnvironment {
     void chooseTool(int index) const;
 
   private:
-    Editor& editor_;
+    EditContext& context_;
+    DrawingTools& tools_;
+    ButtonColours& colours_;
+    const Plane& colourChart_;
+    Readouts& readouts_;
 };

@@ -17,7 +17,7 @@ namespace {
 class ClipboardExchangeTest : public ::testing::Test {
   protected:
     ClipboardExchangeTest() {
-        window.editor().registry = ModRegistry(folder.filePath("store.ini"));
+        window.editor().registry() = ModRegistry(folder.filePath("store.ini"));
         window.startUp({});
         window.activateWindow();
         QApplication::processEvents();
@@ -35,9 +35,9 @@ class ClipboardExchangeTest : public ::testing::Test {
 };
 
 TEST_F(ClipboardExchangeTest, CopiedIconReachesOtherProgramsWithTransparentPixelsWhite) {
-    editor().doc.PicImage.setPixel(3, 2, rgb(200, 10, 20));
-    editor().doc.PicMask.setPixel(3, 2, kBlack);
-    editor().doc.PicImage.setPixel(4, 2, rgb(0, 0, 255)); // inverting: white XOR blue
+    editor().doc().PicImage.setPixel(3, 2, rgb(200, 10, 20));
+    editor().doc().PicMask.setPixel(3, 2, kBlack);
+    editor().doc().PicImage.setPixel(4, 2, rgb(0, 0, 255)); // inverting: white XOR blue
     keys(Qt::Key_T);
     keys(Qt::Key_C);
 
@@ -56,36 +56,36 @@ TEST_F(ClipboardExchangeTest, PictureFromAnotherProgramPastesFloatingWithWhiteTr
         for (int x = 2; x < 18; ++x)
             picture.setPixel(x, y, qRgb(0, 0, 255));
     QApplication::clipboard()->setImage(picture);
-    ASSERT_TRUE(editor().editActionEnabled(5));
+    ASSERT_TRUE(editor().editActionEnabled(EditAction::Paste));
 
     keys(Qt::Key_V);
-    ASSERT_TRUE(editor().selection.SelFloating);
-    EXPECT_EQ(editor().tools.currentTool, DrawingTools::Select);
-    const Selection::Rect r = editor().selection.SelRect;
+    ASSERT_TRUE(editor().selection().SelFloating);
+    EXPECT_EQ(editor().tools().currentTool, DrawingTools::Select);
+    const Selection::Rect r = editor().selection().SelRect;
     EXPECT_EQ(std::tuple(r.Left, r.Top, r.Right, r.Bottom), std::tuple(0, 0, 240, 120));
     EXPECT_EQ(dialogs.pasteDialogs, 0);
 
     keys(Qt::Key_K); // Deselect stamps it into the icon and records it
-    const IconDocument& doc = editor().doc;
+    const IconDocument& doc = editor().doc();
     EXPECT_TRUE(doc.isTransparent(0, 0));
     EXPECT_TRUE(doc.isTransparent(19, 9));
     EXPECT_EQ(doc.PicImage.pixel(2, 2), rgb(0, 0, 255));
     EXPECT_EQ(doc.PicMask.pixel(2, 2), kBlack);
-    EXPECT_EQ(editor().undoRedo.UndoStack.size(), 2u);
+    EXPECT_EQ(editor().undoRedo().UndoStack.size(), 2u);
 
     keys(Qt::Key_Z);
-    EXPECT_TRUE(editor().doc.isTransparent(2, 2));
-    EXPECT_EQ(editor().undoRedo.UndoStack.size(), 1u);
+    EXPECT_TRUE(editor().doc().isTransparent(2, 2));
+    EXPECT_EQ(editor().undoRedo().UndoStack.size(), 1u);
 }
 
 TEST_F(ClipboardExchangeTest, TextOnlyClipboardGreysPasteAndTheShortcutChangesNothing) {
     QApplication::clipboard()->setText("not a picture");
-    EXPECT_FALSE(editor().editActionEnabled(5));
-    EXPECT_FALSE(editor().editActionEnabled(6));
+    EXPECT_FALSE(editor().editActionEnabled(EditAction::Paste));
+    EXPECT_FALSE(editor().editActionEnabled(EditAction::PasteOpaque));
     keys(Qt::Key_V);
-    EXPECT_FALSE(editor().selection.exists());
-    EXPECT_EQ(editor().undoRedo.UndoStack.size(), 1u);
-    EXPECT_FALSE(editor().doc.modified);
+    EXPECT_FALSE(editor().selection().exists());
+    EXPECT_EQ(editor().undoRedo().UndoStack.size(), 1u);
+    EXPECT_FALSE(editor().doc().modified);
 }
 
 TEST_F(ClipboardExchangeTest, HugePictureShrinksThroughPasteOptionsToTheIcon) {
@@ -96,10 +96,10 @@ TEST_F(ClipboardExchangeTest, HugePictureShrinksThroughPasteOptionsToTheIcon) {
     keys(Qt::Key_V);
 
     EXPECT_EQ(dialogs.pasteDialogs, 1);
-    ASSERT_TRUE(editor().selection.SelFloating);
-    EXPECT_EQ(editor().doc.PicSelImage.width(), 32);
-    EXPECT_EQ(editor().doc.PicSelImage.height(), 32);
-    EXPECT_EQ(editor().doc.PicSelImage.pixel(31, 31), rgb(0, 128, 0));
+    ASSERT_TRUE(editor().selection().SelFloating);
+    EXPECT_EQ(editor().doc().PicSelImage.width(), 32);
+    EXPECT_EQ(editor().doc().PicSelImage.height(), 32);
+    EXPECT_EQ(editor().doc().PicSelImage.pixel(31, 31), rgb(0, 128, 0));
 }
 
 } // namespace

@@ -80,8 +80,8 @@ TEST_F(MainMenusTest, EditMenuGreysWhatTheCoreRefusesOnlyWhileOpen) {
 }
 
 TEST_F(MainMenusTest, RecentEntriesAreShownWhenTheFileMenuOpens) {
-    editor().recent.AddRecent(folder.filePath("star.ico"));
-    editor().recent.AddRecent(folder.filePath("moon.ico"));
+    editor().recent().AddRecent(folder.filePath("star.ico"));
+    editor().recent().AddRecent(folder.filePath("moon.ico"));
     emit window->menus.MnuFile->aboutToShow();
     QStringList shown;
     for (QAction* entry : window->menus.MnuRecent)

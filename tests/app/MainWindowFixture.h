@@ -1,7 +1,7 @@
 #pragma once
 
 #include "app/frmMain.h"
-#include "support/MemoryClipboard.h"
+#include "platform/MemoryClipboard.h"
 #include "support/ScriptedDialogs.h"
 
 #include <QApplication>
@@ -16,7 +16,7 @@
 // in-memory clipboard and a settings store of its own.
 class MainWindowFixture : public ::testing::Test {
   protected:
-    MainWindowFixture() { editor().registry = ModRegistry(folder.filePath("store.ini")); }
+    MainWindowFixture() { editor().registry() = ModRegistry(folder.filePath("store.ini")); }
     void SetUp() override { window->startUp({}); }
     // Makes the window the active one, so its shortcuts answer keys.
     void activate() {

@@ -40,7 +40,7 @@ TEST_F(MainWindowTest, ToolButtonsCarryTheToolNamesAndNeverTakeTheFocus) {
         EXPECT_EQ(button->focusPolicy(), Qt::NoFocus) << i;
         QTest::mouseClick(button, Qt::LeftButton);
         EXPECT_EQ(QApplication::focusWidget(), focusBefore) << i;
-        EXPECT_EQ(editor().tools.currentTool, i);
+        EXPECT_EQ(editor().tools().currentTool, i);
         EXPECT_TRUE(button->isChecked());
         // Tools from Line on use the Select tool's pointer.
         EXPECT_EQ(window->PicMain->cursor().pixmap().toImage(),
@@ -59,8 +59,8 @@ TEST_F(MainWindowTest, NewIconShortcutsRedrawTheCanvasAtTheirZoom) {
                                                            {Qt::Key_F2, 32, 12, {440, 22}}};
     for (const auto& [key, size, zoom, previewAt] : cases) {
         QTest::keyClick(window.get(), key, Qt::ControlModifier);
-        EXPECT_EQ(editor().doc.size, size);
-        EXPECT_EQ(editor().doc.zoom, zoom);
+        EXPECT_EQ(editor().doc().size, size);
+        EXPECT_EQ(editor().doc().zoom, zoom);
         EXPECT_EQ(window->PicIcon->geometry(), QRect(previewAt, QSize(size, size)));
     }
 }
@@ -75,14 +75,14 @@ TEST_F(MainWindowTest, MouseOnTheCanvasShowsItsPixelAndPaintsWithThePencil) {
     expected.setPixel(4, 2, kWhite);
     mask.setPixel(2, 2, kBlack);
     mask.setPixel(4, 2, kBlack);
-    EXPECT_EQ(editor().doc.PicImage, expected);
-    EXPECT_EQ(editor().doc.PicMask, mask);
+    EXPECT_EQ(editor().doc().PicImage, expected);
+    EXPECT_EQ(editor().doc().PicMask, mask);
     EXPECT_EQ(colourAt(window->PicMain, 4 * 12 + 6, 2 * 12 + 6), kWhite);
     EXPECT_EQ(colourAt(window->PicIcon, 4, 2), kWhite);
 }
 
 TEST_F(MainWindowTest, ClosingWithUnsavedChangesAndCancelKeepsTheWindow) {
-    editor().doc.modified = true;
+    editor().doc().modified = true;
     window->menus.MnuExit->trigger(); // Exit runs the same shutdown
     EXPECT_FALSE(window->close());    // no scripted answer: Cancel
     EXPECT_TRUE(window->isVisible());
@@ -113,7 +113,7 @@ TEST_F(MainWindowTest, TheCommandLineAndDropsReachOpen) {
     QApplication::sendEvent(window.get(), &drop); // only the first file is opened
 
     frmMain other(&dialogs, &clipboard);
-    other.editor().registry = ModRegistry(folder.filePath("other.ini"));
+    other.editor().registry() = ModRegistry(folder.filePath("other.ini"));
     other.startUp(folder.path()); // exists, but is no .ico
     ASSERT_EQ(dialogs.messages.size(), 2u);
     EXPECT_EQ(dialogs.messages[0].text, "first.ico is not a valid icon file.");

@@ -10,29 +10,26 @@ TEST_F(NewIconTest, EverySizeStartsFullyTransparentWithItsZoom) {
     } cases[] = {{2, 48, 8, 432, 14}, {0, 16, 24, 448, 30}, {1, 32, 12, 440, 22}};
     for (const auto& c : cases) {
         SCOPED_TRACE(c.size);
-        IconDocument& doc = editor->doc;
+        IconDocument& doc = editor->doc();
         doc.PicImage.fill(0x123456);
         doc.PicMask.fill(kBlack);
         doc.modified = false;
-        editor->colours.value = {0x123456, kTransparentColour};
+        editor->colours().value = {0x123456, kTransparentColour};
         editor->newIcon(c.index);
         EXPECT_EQ(doc.size, c.size);
         EXPECT_EQ(doc.zoom, c.zoom);
         EXPECT_EQ(doc.maxIndex, c.size - 1);
-        EXPECT_EQ(editor->colours.value[0], static_cast<std::int32_t>(kBlack));
-        EXPECT_EQ(editor->colours.value[1], static_cast<std::int32_t>(kWhite));
-        EXPECT_EQ(editor->canvas.previewLeft, c.previewLeft);
-        EXPECT_EQ(editor->canvas.previewTop, c.previewTop);
+        EXPECT_EQ(editor->colours().value[0], static_cast<std::int32_t>(kBlack));
+        EXPECT_EQ(editor->colours().value[1], static_cast<std::int32_t>(kWhite));
+        EXPECT_EQ(editor->canvas().previewLeft, c.previewLeft);
+        EXPECT_EQ(editor->canvas().previewTop, c.previewTop);
         EXPECT_EQ(doc.PicImage, Plane(c.size, c.size, kBlack));
         EXPECT_EQ(doc.PicMask, Plane(c.size, c.size, kWhite));
         EXPECT_EQ(doc.PicSelMask.height(), c.size);
-        EXPECT_EQ(doc.PicCol.width(), 2 * c.size);
-        for (const auto& buffer : doc.colourBuffers)
-            EXPECT_EQ(buffer.size(), static_cast<std::size_t>(c.size * c.size));
         EXPECT_EQ(IconDocument::indexForSize(c.size), c.index);
-        EXPECT_EQ(editor->undoRedo.UndoStack.size(), 1u);
+        EXPECT_EQ(editor->undoRedo().UndoStack.size(), 1u);
         EXPECT_FALSE(doc.modified);
-        EXPECT_EQ(editor->windowTitle, "Brevik - Untitled");
+        EXPECT_EQ(editor->windowTitle(), "Brevik - Untitled");
     }
     EXPECT_EQ(IconDocument::indexForSize(24), -1);
 }

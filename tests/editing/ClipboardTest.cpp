@@ -55,8 +55,8 @@ TEST_F(ClipboardTest, CutThenPasteRoundTripKeepsColoursAndTransparencyAndUndoes)
 }
 
 TEST_F(ClipboardTest, PlainPasteMakesWhiteTransparentAndOpaquePasteKeepsIt) {
-    for (const Item item : {Paste, PasteOpaque}) {
-        SCOPED_TRACE(item);
+    for (const EditAction item : {Paste, PasteOpaque}) {
+        SCOPED_TRACE(static_cast<int>(item));
         startWithSize(1);
         clipboard.picture = Plane(4, 4, kWhite);
         clipboard.picture.setPixel(1, 1, kRed);
@@ -119,7 +119,7 @@ TEST_F(ClipboardTest, PasteThatGivesNoPictureKeepsSelectionAndDocument) {
         paint(3, 3, kRed);
         recordPainting();
         mark(24, 24, 60, 60);
-        const Plane image = doc().PicImage, canvas = editor->canvas.PicMain;
+        const Plane image = doc().PicImage, canvas = editor->canvas().PicMain;
         dialogs.pasteDialogs = 0;
         clipboard.picture = Plane(size, size, kBlue); // no scripted answer: Cancel
         editor->editAction(Paste);
@@ -129,7 +129,7 @@ TEST_F(ClipboardTest, PasteThatGivesNoPictureKeepsSelectionAndDocument) {
         EXPECT_TRUE(sel().SelMarked);
         EXPECT_EQ(std::pair(rect().Left, rect().Right), std::pair(24, 60));
         EXPECT_EQ(doc().PicImage, image);
-        EXPECT_EQ(editor->canvas.PicMain, canvas);
+        EXPECT_EQ(editor->canvas().PicMain, canvas);
         EXPECT_EQ(undoSize(), 2u);
     }
 }

@@ -15,12 +15,12 @@ TEST_F(SelectToolTest, ARectangleWithoutAreaIsDiscarded) {
     for (const auto& c : cases) {
         SCOPED_TRACE(c.name);
         startWithSize(1);
-        const Plane canvasBefore = editor->canvas.PicMain;
+        const Plane canvasBefore = editor->canvas().PicMain;
         mark(c.x1, c.y1, c.x2, c.y2);
         EXPECT_FALSE(sel().exists());
-        EXPECT_FALSE(editor->tools.select.marking);
+        EXPECT_FALSE(editor->tools().select.marking);
         EXPECT_EQ(std::pair(rect().Left, rect().Right), std::pair(-1, -1));
-        EXPECT_EQ(editor->canvas.PicMain, canvasBefore);
+        EXPECT_EQ(editor->canvas().PicMain, canvasBefore);
         EXPECT_EQ(undoSize(), 1u);
     }
 }
@@ -40,15 +40,15 @@ TEST_F(SelectToolTest, MarkingSnapsOrdersAndClampsTheCornersAndShowsOnlyTheLates
     for (const auto& c : cases) {
         SCOPED_TRACE(c.name);
         startWithSize(1);
-        editor->tools.chooseTool(DrawingTools::Select);
+        editor->tools().chooseTool(DrawingTools::Select);
         press(1, c.x1, c.y1);
         move(1, 200, 150);
         move(1, c.x2, c.y2);
-        EXPECT_TRUE(editor->tools.select.marking);
-        EXPECT_EQ(editor->readoutToXY, c.size);
+        EXPECT_TRUE(editor->tools().select.marking);
+        EXPECT_EQ(editor->readoutToXY(), c.size);
         expectViews(false, true);
         release(1, c.x2, c.y2);
-        EXPECT_EQ(editor->readoutToXY, "");
+        EXPECT_EQ(editor->readoutToXY(), "");
         ASSERT_TRUE(sel().SelMarked);
         EXPECT_EQ(std::tuple(rect().Left, rect().Top, rect().Right, rect().Bottom),
                   std::tuple(c.rect.Left, c.rect.Top, c.rect.Right, c.rect.Bottom));
@@ -112,7 +112,7 @@ TEST_F(SelectToolTest, AFloatingSelectionMovesAgainWithoutClearingWhatLiesUnderI
 TEST_F(SelectToolTest, TheRightButtonMarksAndMovesTooAndOthersDoNothing) {
     paint(2, 2, kRed);
     recordPainting();
-    editor->tools.chooseTool(DrawingTools::Select);
+    editor->tools().chooseTool(DrawingTools::Select);
     move(1, 100, 100); // no press: nothing happens
     release(1, 100, 100);
     drag(3, {{25, 25}, {61, 50}});

@@ -11,7 +11,7 @@ TEST_F(SelectionTest, UndoAfterSelectAllUndoesExactlyOneEdit) {
     recordPainting();
     editor->editAction(SelectAll);
     EXPECT_TRUE(sel().SelMarked);
-    EXPECT_EQ(editor->tools.currentTool, DrawingTools::Select);
+    EXPECT_EQ(editor->tools().currentTool, DrawingTools::Select);
     EXPECT_EQ(rect().Right, 384);
     EXPECT_EQ(undoSize(), 3u);
     expectViews(false, true);
@@ -31,7 +31,7 @@ TEST_F(SelectionTest, CommitOfAnUnmovedMarkedSelectionRecordsNothing) {
         paint(4, 3, kBlue, kWhite);
         paint(3, 5, kGreen, kWhite); // outside the selection: left alone
         recordPainting();
-        editor->doc.modified = false;
+        editor->doc().modified = false;
         mark(36, 36, 72, 48); // icon pixels (3, 3) to (5, 3)
         ASSERT_TRUE(sel().SelMarked);
         if (deselect)
@@ -77,11 +77,11 @@ TEST_F(SelectionTest, SelectAllOrAnotherToolCommitsAFloatingSelectionAndDeleteDr
         startWithSize(1);
         clipboard.picture = Plane(2, 1, kBlue);
         editor->editAction(Paste);
-        EXPECT_EQ(editor->tools.currentTool, DrawingTools::Select);
-        EXPECT_EQ(editor->tools.previousTool, DrawingTools::Pencil);
+        EXPECT_EQ(editor->tools().currentTool, DrawingTools::Select);
+        EXPECT_EQ(editor->tools().previousTool, DrawingTools::Pencil);
         const std::string s = step;
         if (s == "Line")
-            editor->tools.chooseTool(DrawingTools::Line);
+            editor->tools().chooseTool(DrawingTools::Line);
         else
             editor->editAction(s == "Delete" ? Delete : SelectAll);
         EXPECT_EQ(undoSize(), 2u);

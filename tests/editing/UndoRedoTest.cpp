@@ -12,11 +12,13 @@ class UndoRedoTest : public ToolsFixture {
   protected:
     // One pencil click on icon pixel (x, y) in colour c.
     void stroke(int x, int y, Colour c) {
-        editor->tools.chooseTool(T::Pencil);
-        editor->colours.value[0] = static_cast<std::int32_t>(c);
+        editor->tools().chooseTool(T::Pencil);
+        editor->colours().value[0] = static_cast<std::int32_t>(c);
         click(1, x, y);
     }
-    std::pair<Plane, Plane> state() const { return {editor->doc.PicImage, editor->doc.PicMask}; }
+    std::pair<Plane, Plane> state() const {
+        return {editor->doc().PicImage, editor->doc().PicMask};
+    }
     // Undo and Redo enabled, as "+-" and the like.
     std::string enabling() const {
         return std::string(editor->editActionEnabled(Undo) ? "+" : "-") +
@@ -32,8 +34,8 @@ TEST_F(UndoRedoTest, EachDrawingToolRecordsOneStateAtMouseUp) {
           T::SolidRectangle, T::SolidEllipse, T::FilledRectangle, T::FilledEllipse}) {
         SCOPED_TRACE(tool);
         startWithSize(1);
-        editor->colours.value[0] = static_cast<std::int32_t>(kTeal);
-        editor->tools.chooseTool(tool);
+        editor->colours().value[0] = static_cast<std::int32_t>(kTeal);
+        editor->tools().chooseTool(tool);
         press(1, 30, 30);
         move(1, 100, 80);
         EXPECT_EQ(undoSize(), 1u) << "nothing is recorded before mouse-up";
@@ -53,13 +55,13 @@ TEST_F(UndoRedoTest, StepsBackAndForthThroughASequenceOfEdits) {
     stroke(1, 1, kOrange);
     EXPECT_EQ(enabling(), "+-");
     states.push_back(state());
-    editor->tools.chooseTool(T::FilledRectangle);
+    editor->tools().chooseTool(T::FilledRectangle);
     drag(2, {{20, 20}, {200, 120}});
     states.push_back(state());
-    editor->tools.chooseTool(T::Flood);
+    editor->tools().chooseTool(T::Flood);
     drag(1, {{300, 300}});
     states.push_back(state());
-    editor->tools.chooseTool(T::Erase);
+    editor->tools().chooseTool(T::Erase);
     drag(1, {{30, 30}, {60, 30}});
     states.push_back(state());
     for (std::size_t i = 1; i < states.size(); ++i)
@@ -78,8 +80,8 @@ TEST_F(UndoRedoTest, StepsBackAndForthThroughASequenceOfEdits) {
     expectViews(false, false);
     EXPECT_EQ(undoSize(), states.size());
     // Entries pushed by edits carry the push count; moved ones carry none.
-    EXPECT_EQ(editor->undoRedo.UndoStack[0].key, "1");
-    EXPECT_EQ(editor->undoRedo.UndoCounter, 5);
+    EXPECT_EQ(editor->undoRedo().UndoStack[0].key, "1");
+    EXPECT_EQ(editor->undoRedo().UndoCounter, 5);
 }
 
 TEST_F(UndoRedoTest, NewEditAfterUndoEmptiesRedoAlreadyAtMouseDown) {
@@ -106,7 +108,7 @@ TEST_F(UndoRedoTest, NewStartsAFreshHistoryAtTheNewSize) {
     dialogs.prompts.push_back(PromptAnswer::No);
     editor->newIcon(0);
     EXPECT_EQ(undoSize(), 1u);
-    EXPECT_EQ(editor->undoRedo.UndoCounter, 1);
+    EXPECT_EQ(editor->undoRedo().UndoCounter, 1);
     EXPECT_EQ(enabling(), "--");
     // The shortcut with nothing to undo leaves the 16 x 16 icon as it is.
     const auto blank = state();

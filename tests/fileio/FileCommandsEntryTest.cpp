@@ -43,15 +43,15 @@ TEST_F(FileCommandsEntryTest, TheCommandLineMustNameAnExistingIcoFile) {
     dialogs.messages.clear();
     editor->commandLineOpen(capitals);
     EXPECT_EQ(documentState(), stateOf(capitals));
-    EXPECT_EQ(editor->recent.paths(), QStringList{capitals});
-    EXPECT_TRUE(editor->recentFolder.isEmpty()) << "only a dialog moves the recent folder";
+    EXPECT_EQ(editor->recent().paths(), QStringList{capitals});
+    EXPECT_TRUE(editor->recentFolder().isEmpty()) << "only a dialog moves the recent folder";
 }
 
 TEST_F(FileCommandsEntryTest, DroppingSeveralFilesOpensTheFirstAfterThePrompt) {
     const QString first = iconFile("first.ico"), second = iconFile("second.ico");
     edit(1, 1, rgb(5, 5, 5));
     editor->dropFiles({first, second}); // the prompt is cancelled
-    EXPECT_TRUE(editor->doc.modified);
+    EXPECT_TRUE(editor->doc().modified);
     dialogs.prompts.push_back(PromptAnswer::No);
     editor->dropFiles({first, second});
     EXPECT_EQ(dialogs.promptTexts.size(), 2u);
@@ -66,25 +66,25 @@ TEST_F(FileCommandsEntryTest, ARecentEntryOpensItsFileOrGoesWithAMessage) {
     editor->newIcon(1);
     editor->recentClick(3);
     EXPECT_EQ(documentState(), stateOf(a));
-    EXPECT_EQ(editor->recent.paths(), (QStringList{a, c, b}));
+    EXPECT_EQ(editor->recent().paths(), (QStringList{a, c, b}));
     EXPECT_EQ(dialogs.fileModes.size(), 3u) << "no dialog for a recent entry";
 
     QFile::remove(c);
     editor->recentClick(2);
     EXPECT_EQ(shown(), brevikError("Unable to locate the file c.ico"));
-    EXPECT_EQ(editor->recent.paths(), (QStringList{a, b}));
+    EXPECT_EQ(editor->recent().paths(), (QStringList{a, b}));
     EXPECT_EQ(documentState(), stateOf(a));
 
     writeFile("b.ico", "garbage");
     dialogs.messages.clear();
     editor->recentClick(2);
     EXPECT_EQ(shown(), brevikError("b.ico is not a valid icon file."));
-    EXPECT_EQ(editor->recent.paths(), QStringList{a});
+    EXPECT_EQ(editor->recent().paths(), QStringList{a});
 
     edit(0, 0, rgb(1, 1, 1));
     editor->recentClick(1);
     EXPECT_EQ(dialogs.promptTexts.back(), "Save changes to a.ico?");
-    EXPECT_TRUE(editor->doc.modified);
+    EXPECT_TRUE(editor->doc().modified);
 }
 
 TEST_F(FileCommandsEntryTest, TheListAndFolderAreHandedOverFromOneRunToTheNext) {
@@ -99,14 +99,14 @@ TEST_F(FileCommandsEntryTest, TheListAndFolderAreHandedOverFromOneRunToTheNext) 
     ASSERT_TRUE(editor->shutDown());
 
     startWithSize(1);
-    EXPECT_EQ(editor->recent.paths(), (QStringList{b, a}));
-    EXPECT_EQ(editor->recentFolder, path("sub"));
+    EXPECT_EQ(editor->recent().paths(), (QStringList{b, a}));
+    EXPECT_EQ(editor->recentFolder(), path("sub"));
     EXPECT_TRUE(storedKeys().isEmpty()) << "the next start takes them out of the store";
     dialogs.fileStartFolders.clear();
     openThroughDialog(a);
     chooseNext(path("sub/c.bmp"));
-    editor->files.saveAsBitmap();
-    editor->files.saveAs(); // cancelled
+    editor->files().saveAsBitmap();
+    editor->files().saveAs(); // cancelled
     EXPECT_EQ(dialogs.fileStartFolders,
               (std::vector<QString>{path("sub"), files.path(), path("sub")}));
 }

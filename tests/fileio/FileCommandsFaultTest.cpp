@@ -110,19 +110,19 @@ TEST_F(FileCommandsFaultTest, AWriteThatFailsHalfWayLeavesTheOldFileAndTheDocume
         startWithSize(1);
         const QString kept = writeFile("kept", old);
         c.prepare(kept);
-        ASSERT_TRUE(editor->doc.modified);
+        ASSERT_TRUE(editor->doc().modified);
         const std::string state = documentState();
         const QStringList entries = folderEntries(files.path());
         dialogs.messages.clear();
         {
             const FileSizeLimit smallerThanAnyIcon(64);
-            c.save(editor->files);
+            c.save(editor->files());
         }
         EXPECT_EQ(shown(), brevikError(c.message));
         EXPECT_EQ(readFile(kept), old);
         EXPECT_EQ(folderEntries(files.path()), entries) << "no temporary file is left behind";
         EXPECT_EQ(documentState(), state);
-        EXPECT_FALSE(editor->files.saveSucceeded);
+        EXPECT_FALSE(editor->files().saveSucceeded);
     }
 }
 
@@ -142,7 +142,7 @@ TEST_F(FileCommandsFaultTest, AFolderThatTakesNoNewFileRefusesTheSaveOfAWritable
     {
         const WithoutRoot asAUser;
         ASSERT_TRUE(QFileInfo(kept).isWritable());
-        EXPECT_FALSE(editor->files.save());
+        EXPECT_FALSE(editor->files().save());
     }
     QFile::setPermissions(path("locked"), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     EXPECT_EQ(shown(), brevikError("Unable to save the file kept.ico"));

@@ -20,19 +20,19 @@ void FileCommandsFixture::chooseNext(const QString& path) {
 
 void FileCommandsFixture::openThroughDialog(const QString& path) {
     chooseNext(path);
-    editor->files.open();
+    editor->files().open();
 }
 
 void FileCommandsFixture::edit(int x, int y, Colour c) {
-    editor->doc.PicImage.setPixel(x, y, c);
-    editor->doc.PicMask.setPixel(x, y, kBlack);
+    editor->doc().PicImage.setPixel(x, y, c);
+    editor->doc().PicMask.setPixel(x, y, kBlack);
     editor->refresh();
     editor->recordEdit();
 }
 
 void FileCommandsFixture::expectDocument(const TestIcon& icon) const {
-    EXPECT_EQ(editor->doc.PicMask, icon.mask);
-    EXPECT_EQ(editor->doc.PicImage, icon.image);
+    EXPECT_EQ(editor->doc().PicMask, icon.mask);
+    EXPECT_EQ(editor->doc().PicImage, icon.image);
 }
 
 std::string FileCommandsFixture::shown() const {
@@ -44,9 +44,9 @@ std::string FileCommandsFixture::shown() const {
 }
 
 std::string FileCommandsFixture::documentState() const {
-    const IconDocument& doc = editor->doc;
+    const IconDocument& doc = editor->doc();
     return QStringLiteral("%1 | %2 | %3 | modified %4 | file %5")
-        .arg(editor->windowTitle, doc.filePath, doc.fileTitle)
+        .arg(editor->windowTitle(), doc.filePath, doc.fileTitle)
         .arg(doc.modified)
         .arg(doc.hasFile)
         .toStdString();

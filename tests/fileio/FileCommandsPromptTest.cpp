@@ -10,17 +10,17 @@ class FileCommandsPromptTest : public FileCommandsFixture {
 };
 
 TEST_F(FileCommandsPromptTest, CancelStopsOpenNewCloseAndDropsWithEverythingAsItWas) {
-    const Plane image = editor->doc.PicImage;
+    const Plane image = editor->doc().PicImage;
     const std::string state = documentState();
-    editor->files.open();
+    editor->files().open();
     editor->newIcon(2);
     EXPECT_FALSE(editor->shutDown());
     editor->dropFiles({starFile});
     EXPECT_EQ(dialogs.promptTexts, std::vector<QString>(4, "Save changes to Untitled.ico?"));
     EXPECT_TRUE(dialogs.fileModes.empty());
     EXPECT_EQ(documentState(), state);
-    EXPECT_EQ(editor->doc.PicImage, image);
-    EXPECT_EQ(editor->undoRedo.UndoStack.size(), 2u);
+    EXPECT_EQ(editor->doc().PicImage, image);
+    EXPECT_EQ(editor->undoRedo().UndoStack.size(), 2u);
 }
 
 TEST_F(FileCommandsPromptTest, NoDropsTheChangesAndYesSavesUnderTheTitleOrThroughSaveAs) {
@@ -38,16 +38,16 @@ TEST_F(FileCommandsPromptTest, NoDropsTheChangesAndYesSavesUnderTheTitleOrThroug
     EXPECT_EQ(dialogs.fileModes,
               (std::vector<FileDialogMode>{FileDialogMode::Open, FileDialogMode::SaveAs,
                                            FileDialogMode::Open}));
-    EXPECT_EQ(editor->recent.paths(), (QStringList{starFile, path("first.ico")}));
+    EXPECT_EQ(editor->recent().paths(), (QStringList{starFile, path("first.ico")}));
 
     edit(2, 3, rgb(11, 12, 13));
-    const Plane edited = editor->doc.PicImage;
+    const Plane edited = editor->doc().PicImage;
     dialogs.prompts.push_back(PromptAnswer::Yes);
     editor->newIcon(0);
     EXPECT_EQ(dialogs.promptTexts.back(), "Save changes to star.ico?");
-    EXPECT_EQ(editor->windowTitle, "Brevik - Untitled");
+    EXPECT_EQ(editor->windowTitle(), "Brevik - Untitled");
     openThroughDialog(starFile);
-    EXPECT_EQ(editor->doc.PicImage, edited);
+    EXPECT_EQ(editor->doc().PicImage, edited);
     EXPECT_EQ(shown(), "");
 }
 
@@ -56,13 +56,13 @@ TEST_F(FileCommandsPromptTest, YesGoesOnOnlyWhenTheSaveOrTheLastOneSucceeded) {
     chooseNext(path("missing/lost.ico"));
     editor->newIcon(0);
     EXPECT_EQ(shown(), brevikError("Unable to save the file lost.ico"));
-    EXPECT_TRUE(editor->doc.modified);
+    EXPECT_TRUE(editor->doc().modified);
 
     // A cancelled Save As answers the last save's result.
     dialogs.prompts.push_back(PromptAnswer::Yes);
-    editor->files.open();
+    editor->files().open();
     EXPECT_EQ(dialogs.fileModes, std::vector<FileDialogMode>(2, FileDialogMode::SaveAs));
-    editor->files.saveSucceeded = true;
+    editor->files().saveSucceeded = true;
     dialogs.prompts.push_back(PromptAnswer::Yes);
     dialogs.files.push_back(std::nullopt);
     openThroughDialog(starFile);

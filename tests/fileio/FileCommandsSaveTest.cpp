@@ -10,33 +10,34 @@ class FileCommandsSaveTest : public FileCommandsFixture {};
 
 TEST_F(FileCommandsSaveTest, SaveAsMakesTheNewFileTheDocumentsAndSaveWritesItInPlace) {
     edit(0, 0, rgb(10, 20, 30));
-    editor->files.save(); // untitled: Save As, cancelled
+    editor->files().save(); // untitled: Save As, cancelled
     EXPECT_EQ(dialogs.fileModes, std::vector<FileDialogMode>{FileDialogMode::SaveAs});
-    EXPECT_FALSE(editor->files.saveSucceeded);
-    EXPECT_TRUE(editor->doc.modified);
+    EXPECT_FALSE(editor->files().saveSucceeded);
+    EXPECT_TRUE(editor->doc().modified);
 
     const TestIcon icon(16, 8);
     const QString original = writeFile("forty.ico", icon.file());
     dialogs.prompts.push_back(PromptAnswer::No);
     openThroughDialog(original);
     int busy = 0, idle = 0;
-    editor->services.setBusy = [&](bool on) { on ? ++busy : ++idle; };
+    editor->services().setBusy = [&](bool on) { on ? ++busy : ++idle; };
     QDir(files.path()).mkdir("out");
     const QString copy = path("out/Copy.ico");
     chooseNext(copy);
-    editor->files.saveAs();
+    editor->files().saveAs();
     EXPECT_EQ(documentState(), stateOf(copy));
-    EXPECT_TRUE(editor->files.saveSucceeded);
-    EXPECT_EQ(editor->recent.paths(), (QStringList{copy, original}));
-    EXPECT_EQ(editor->recentFolder, path("out"));
+    EXPECT_TRUE(editor->files().saveSucceeded);
+    EXPECT_EQ(editor->recent().paths(), (QStringList{copy, original}));
+    EXPECT_EQ(editor->recentFolder(), path("out"));
     EXPECT_EQ(std::pair(busy, idle), std::pair(1, 1));
 
     edit(4, 4, rgb(4, 5, 6));
-    EXPECT_TRUE(editor->files.save());
+    EXPECT_TRUE(editor->files().save());
     EXPECT_EQ(dialogs.fileModes.size(), 3u) << "Save of a document with a file asks nothing";
-    EXPECT_FALSE(editor->doc.modified);
+    EXPECT_FALSE(editor->doc().modified);
     EXPECT_EQ(readFile(original), icon.file());
-    EXPECT_EQ(readFile(copy), IconWriter::iconBytes(editor->doc.PicMask, editor->doc.PicImage, 256))
+    EXPECT_EQ(readFile(copy),
+              IconWriter::iconBytes(editor->doc().PicMask, editor->doc().PicImage, 256))
         << "forty colours are written at 8 bits";
 }
 
@@ -47,35 +48,35 @@ TEST_F(FileCommandsSaveTest, BitmapAndCursorCopiesLeaveTheDocumentsFileAlone) {
     edit(2, 2, rgb(7, 7, 7));
     const std::string state = documentState();
     chooseNext(path("many.bmp"));
-    editor->files.saveAsBitmap();
+    editor->files().saveAsBitmap();
     dialogs.hotSpots.push_back(HotSpot{5, 7});
     chooseNext(path("many.cur"));
-    editor->files.saveAsCursor();
+    editor->files().saveAsCursor();
     EXPECT_EQ(documentState(), state);
-    EXPECT_EQ(editor->recent.paths(), QStringList{original});
+    EXPECT_EQ(editor->recent().paths(), QStringList{original});
     EXPECT_EQ(shown(), "");
     EXPECT_EQ(dialogs.fileModes,
               (std::vector<FileDialogMode>{FileDialogMode::Open, FileDialogMode::SaveAsBitmap,
                                            FileDialogMode::SaveAsCursor}));
     // The bitmap is the icon over white: transparent pixels white, inverting
     // ones white XOR their colour.
-    Plane overWhite = editor->doc.PicImage;
+    Plane overWhite = editor->doc().PicImage;
     overWhite.setPixel(0, 0, kWhite);
     overWhite.setPixel(31, 0, kWhite);
     overWhite.setPixel(5, 0, kWhite ^ rgb(200, 10, 90));
     overWhite.setPixel(6, 0, kBlack);
     EXPECT_EQ(readFile(path("many.bmp")), IconWriter::bitmapBytes(overWhite, -1));
     EXPECT_EQ(readFile(path("many.cur")),
-              IconWriter::cursorBytes(editor->doc.PicMask, editor->doc.PicImage, -1, 5, 7));
-    EXPECT_TRUE(editor->files.save());
+              IconWriter::cursorBytes(editor->doc().PicMask, editor->doc().PicImage, -1, 5, 7));
+    EXPECT_TRUE(editor->files().save());
     EXPECT_EQ(readFile(original),
-              IconWriter::iconBytes(editor->doc.PicMask, editor->doc.PicImage, -1));
+              IconWriter::iconBytes(editor->doc().PicMask, editor->doc().PicImage, -1));
 }
 
 TEST_F(FileCommandsSaveTest, TheHotSpotIsAskedFirstAndEitherCancelStops) {
-    editor->files.saveAsCursor();
+    editor->files().saveAsCursor();
     dialogs.hotSpots.push_back(HotSpot{0, 0});
-    editor->files.saveAsCursor();
+    editor->files().saveAsCursor();
     EXPECT_EQ(dialogs.hotSpotDialogs, 2);
     EXPECT_EQ(dialogs.fileModes, std::vector<FileDialogMode>{FileDialogMode::SaveAsCursor});
     EXPECT_TRUE(QDir(files.path()).isEmpty());
@@ -85,21 +86,21 @@ TEST_F(FileCommandsSaveTest, FailedWritesSayWhichAndChangeNothing) {
     const QString original = writeFile("forty.ico", TestIcon(16, 8).file());
     openThroughDialog(original);
     edit(3, 3, rgb(1, 2, 3));
-    editor->files.saveSucceeded = true;
+    editor->files().saveSucceeded = true;
     const std::string state = documentState();
     chooseNext(path("missing/lost.ico"));
-    editor->files.saveAs();
-    EXPECT_FALSE(editor->files.saveSucceeded);
+    editor->files().saveAs();
+    EXPECT_FALSE(editor->files().saveSucceeded);
     chooseNext(path("missing/lost.bmp"));
-    editor->files.saveAsBitmap();
+    editor->files().saveAsBitmap();
     dialogs.hotSpots.push_back(HotSpot{1, 1});
     chooseNext(path("missing/lost.cur"));
-    editor->files.saveAsCursor();
+    editor->files().saveAsCursor();
     EXPECT_EQ(shown(), brevikError("Unable to save the file lost.ico") +
                            brevikError("Failed to Save Icon As Bitmap.") +
                            brevikError("Failed to Save Icon As Cursor."));
     EXPECT_EQ(documentState(), state);
-    EXPECT_EQ(editor->recent.paths(), QStringList{original});
+    EXPECT_EQ(editor->recent().paths(), QStringList{original});
 }
 
 TEST_F(FileCommandsSaveTest, AnImageOfAMultiImageFileSavesOnlyToAnotherFile) {
@@ -108,31 +109,32 @@ TEST_F(FileCommandsSaveTest, AnImageOfAMultiImageFileSavesOnlyToAnotherFile) {
     dialogs.iconLines.push_back(1);
     openThroughDialog(source);
     edit(6, 6, rgb(60, 70, 80));
-    editor->files.saveSucceeded = true;
+    editor->files().saveSucceeded = true;
     // Kept as it always was: the in-place rewrite fails, the file stays.
-    EXPECT_FALSE(editor->files.save());
+    EXPECT_FALSE(editor->files().save());
     EXPECT_EQ(shown(), brevikError("Unable to save the file pair.ico"));
-    EXPECT_FALSE(editor->files.saveSucceeded);
-    EXPECT_TRUE(editor->doc.modified);
+    EXPECT_FALSE(editor->files().saveSucceeded);
+    EXPECT_TRUE(editor->doc().modified);
     EXPECT_EQ(readFile(source), bytes);
 
-    const IconDescription chosen = editor->files.currentIcon;
+    const IconDescription chosen = editor->files().currentIcon;
     const QString copy = path("pair-copy.ico");
     chooseNext(copy);
-    editor->files.saveAs();
+    editor->files().saveAs();
     EXPECT_EQ(documentState(), stateOf(copy));
-    EXPECT_EQ(readFile(copy), IconWriter::multiIconBytes(editor->doc.PicMask, editor->doc.PicImage,
-                                                         256, bytes, chosen));
+    EXPECT_EQ(readFile(copy),
+              IconWriter::multiIconBytes(editor->doc().PicMask, editor->doc().PicImage, 256, bytes,
+                                         chosen));
 }
 
 TEST_F(FileCommandsSaveTest, AFloatingSelectionIsCommittedBeforeABitmapIsWritten) {
     clipboard.picture = Plane(4, 4, rgb(0, 0, 255));
-    editor->selection.Paste(false);
-    ASSERT_TRUE(editor->selection.SelFloating);
+    editor->selection().Paste(false);
+    ASSERT_TRUE(editor->selection().SelFloating);
     chooseNext(path("pasted.bmp"));
-    editor->files.saveAsBitmap();
-    EXPECT_FALSE(editor->selection.exists());
-    EXPECT_EQ(hex(editor->doc.PicImage.pixel(3, 3)), hex(rgb(0, 0, 255)));
+    editor->files().saveAsBitmap();
+    EXPECT_FALSE(editor->selection().exists());
+    EXPECT_EQ(hex(editor->doc().PicImage.pixel(3, 3)), hex(rgb(0, 0, 255)));
     EXPECT_EQ(readFile(path("pasted.bmp")).at(28), 4) << "blue, black and white fit 16 colours";
 }
 

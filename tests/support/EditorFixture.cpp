@@ -21,25 +21,22 @@ EditorFixture::EditorFixture() {
 }
 
 void EditorFixture::startWithSize(int sizeIndex) {
-    Services services;
-    services.dialogs = &dialogs;
-    services.clipboard = &clipboard;
-    services.random = fixedRandom();
-    editor = std::make_unique<Editor>(services);
-    editor->registry = ModRegistry(settingsDir.filePath(QStringLiteral("Sollent.ini")));
+    editor = std::make_unique<Editor>(dialogs, clipboard);
+    editor->services().random = fixedRandom();
+    editor->registry() = ModRegistry(settingsDir.filePath(QStringLiteral("Sollent.ini")));
     editor->startUp();
     if (sizeIndex != 1)
         editor->newIcon(sizeIndex);
 }
 
 void EditorFixture::press(int button, int x, int y) {
-    editor->tools.mouseDown(button, x, y);
+    editor->tools().mouseDown(button, x, y);
 }
 void EditorFixture::move(int button, int x, int y) {
-    editor->tools.mouseMove(button, x, y);
+    editor->tools().mouseMove(button, x, y);
 }
 void EditorFixture::release(int button, int x, int y) {
-    editor->tools.mouseUp(button, x, y);
+    editor->tools().mouseUp(button, x, y);
 }
 
 void EditorFixture::drag(int button, std::initializer_list<std::pair<int, int>> points) {
@@ -51,7 +48,7 @@ void EditorFixture::drag(int button, std::initializer_list<std::pair<int, int>> 
 }
 
 std::pair<Colour, Colour> EditorFixture::pixelAt(int x, int y) const {
-    return {editor->doc.PicImage.pixel(x, y), editor->doc.PicMask.pixel(x, y)};
+    return {editor->doc().PicImage.pixel(x, y), editor->doc().PicMask.pixel(x, y)};
 }
 
 std::string hex(Colour c) {

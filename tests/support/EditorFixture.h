@@ -1,7 +1,7 @@
 #pragma once
 
-#include "app/Editor.h"
-#include "support/MemoryClipboard.h"
+#include "platform/MemoryClipboard.h"
+#include "session/Editor.h"
 #include "support/ScriptedDialogs.h"
 
 #include <QTemporaryDir>

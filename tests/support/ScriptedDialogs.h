@@ -1,13 +1,13 @@
 #pragma once
 
-#include "platform/UserDialogs.h"
+#include "session/EditorDialogs.h"
 
 #include <deque>
 #include <vector>
 
 // Answers the editor's questions from a script and records every one asked.
 // A question with no scripted answer cancels, so a test never hangs on one.
-class ScriptedDialogs : public UserDialogs {
+class ScriptedDialogs : public EditorDialogs {
   public:
     struct Message {
         QString title;

@@ -11,19 +11,19 @@ TEST_F(DrawingToolsTest, OtherMouseButtonsDoNothing) {
         SCOPED_TRACE(tool);
         startWithSize(1);
         click(1, 2, 2);
-        editor->editAction(0); // leaves something to redo
+        editor->editAction(Undo); // leaves something to redo
         draw("", 'g');
-        const Plane canvas = editor->canvas.PicMain;
-        const auto colours = editor->colours.value;
-        editor->tools.chooseTool(tool);
+        const Plane canvas = editor->canvas().PicMain;
+        const auto colours = editor->colours().value;
+        editor->tools().chooseTool(tool);
         for (int button : {0, 3, 4, 8})
             drag(button, {{at(2), at(2)}, {at(6), at(6)}});
         expectPicture(".", 0, 0, 'g');
-        EXPECT_EQ(editor->canvas.PicMain, canvas);
-        EXPECT_EQ(editor->colours.value, colours);
-        EXPECT_EQ(editor->tools.currentTool, tool);
-        EXPECT_TRUE(editor->editActionEnabled(1)) << "redo history kept";
-        EXPECT_EQ(editor->undoRedo.UndoStack.size(), 1u);
+        EXPECT_EQ(editor->canvas().PicMain, canvas);
+        EXPECT_EQ(editor->colours().value, colours);
+        EXPECT_EQ(editor->tools().currentTool, tool);
+        EXPECT_TRUE(editor->editActionEnabled(Redo)) << "redo history kept";
+        EXPECT_EQ(editor->undoRedo().UndoStack.size(), 1u);
     }
 }
 
@@ -36,7 +36,7 @@ TEST_F(DrawingToolsTest, SecondButtonDuringAGestureIsIgnored) {
     move(1, at(4), at(1)); // still drawing after the right button's release
     release(1, at(4), at(1));
     expectPicture("r.rr", 1, 1, 'T');
-    EXPECT_EQ(editor->undoRedo.UndoStack.size(), 2u);
+    EXPECT_EQ(editor->undoRedo().UndoStack.size(), 2u);
 }
 
 // Sample hands back to the last drawing tool at mouse-up; Erase and Select
@@ -54,18 +54,18 @@ TEST_F(DrawingToolsTest, ToolChoiceKeepsThePreviousDrawingToolAndTheCursor) {
     };
     for (const auto& s : steps) {
         SCOPED_TRACE(s.tool);
-        editor->tools.chooseTool(s.tool);
-        EXPECT_EQ(editor->tools.currentTool, s.tool);
-        EXPECT_EQ(editor->tools.previousTool, s.previousAfter);
-        EXPECT_EQ(editor->tools.canvasCursorTool, s.cursor);
+        editor->tools().chooseTool(s.tool);
+        EXPECT_EQ(editor->tools().currentTool, s.tool);
+        EXPECT_EQ(editor->tools().previousTool, s.previousAfter);
+        EXPECT_EQ(editor->tools().canvasCursorTool, s.cursor);
         if (s.clickAfter) {
             click(1, 0, 0);
-            EXPECT_EQ(editor->tools.currentTool, s.previousAfter);
+            EXPECT_EQ(editor->tools().currentTool, s.previousAfter);
         }
     }
     editor->newIcon(0);
-    EXPECT_EQ(editor->tools.currentTool, T::Pencil);
-    EXPECT_EQ(editor->tools.previousTool, T::Pencil);
+    EXPECT_EQ(editor->tools().currentTool, T::Pencil);
+    EXPECT_EQ(editor->tools().previousTool, T::Pencil);
 }
 
 } // namespace

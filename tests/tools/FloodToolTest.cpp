@@ -25,35 +25,35 @@ TEST_F(FloodToolTest, FillsThe4ConnectedRegionSharingMaskAndColour) {
     for (const auto& c : cases) {
         SCOPED_TRACE(c.what);
         startWithSize(0);
-        editor->tools.chooseTool(DrawingTools::Flood);
+        editor->tools().chooseTool(DrawingTools::Flood);
         draw(c.before, 'T');
-        editor->doc.modified = false;
-        editor->colours.value[c.button - 1] = c.colour;
+        editor->doc().modified = false;
+        editor->colours().value[c.button - 1] = c.colour;
         // The fill is done at mouse-down; mouse-up only records it.
         press(c.button, at(c.x), at(c.y));
         expectPicture(c.after, 0, 0, 'T');
-        EXPECT_TRUE(editor->doc.modified);
+        EXPECT_TRUE(editor->doc().modified);
         release(c.button, at(c.x), at(c.y));
-        EXPECT_EQ(editor->undoRedo.UndoStack.size(), 2u);
+        EXPECT_EQ(editor->undoRedo().UndoStack.size(), 2u);
     }
     // The closing grid line lies past the last pixel: nothing to fill.
-    editor->doc.modified = false;
+    editor->doc().modified = false;
     press(1, 384, 384);
     release(1, 384, 384);
-    EXPECT_FALSE(editor->doc.modified);
+    EXPECT_FALSE(editor->doc().modified);
 }
 
 // A marker colour that an inverting pixel already holds would make that pixel
 // look like part of the region: the search must pass it over.
 TEST_F(FloodToolTest, MarkerNeverMatchesAColourOfTheIcon) {
-    const Colour taken = editor->pickers.PicPal.pixel(30, 100);
-    editor->tools.chooseTool(DrawingTools::Flood);
-    editor->doc.PicImage.setPixel(1, 0, taken);
+    const Colour taken = editor->pickers().PicPal.pixel(30, 100);
+    editor->tools().chooseTool(DrawingTools::Flood);
+    editor->doc().PicImage.setPixel(1, 0, taken);
     editor->refresh();
     // Random numbers landing first on chart pixel (30, 100), then on (20, 200).
     const double numbers[] = {30.5 / 51, 100.5 / 335, 20.5 / 51, 200.5 / 335};
     std::size_t next = 0;
-    editor->services.random = [&] { return numbers[next++ % 4]; };
+    editor->services().random = [&] { return numbers[next++ % 4]; };
     setColours(kBlue, kRed);
     click(1, 0, 0);
     EXPECT_EQ(next, 4u);
@@ -65,11 +65,11 @@ TEST_F(FloodToolTest, MarkerNeverMatchesAColourOfTheIcon) {
 // A generator that only ever points at the chart's black column can never
 // give a marker; the fill must still finish, letting events run meanwhile.
 TEST_F(FloodToolTest, StuckGeneratorStillFinishes) {
-    editor->tools.chooseTool(DrawingTools::Flood);
+    editor->tools().chooseTool(DrawingTools::Flood);
     draw("gg./g..", 'T');
     int eventsRun = 0;
-    editor->services.random = [] { return 0.0; };
-    editor->services.processEvents = [&] { ++eventsRun; };
+    editor->services().random = [] { return 0.0; };
+    editor->services().processEvents = [&] { ++eventsRun; };
     setColours(kRed, kBlue);
     click(1, 0, 0);
     EXPECT_GT(eventsRun, 0);

@@ -21,7 +21,7 @@ TEST_F(FreehandToolsTest, OnlyPointsInsideTheGridPaintTheirCell) {
             expectPicture(".", 0, 0, 'T');
         else
             expectPicture("k", p.paintedX, p.paintedY, 'T');
-        EXPECT_TRUE(p.paintedX < 0 || editor->doc.modified);
+        EXPECT_TRUE(p.paintedX < 0 || editor->doc().modified);
         expectViews();
     }
 }
@@ -41,13 +41,13 @@ TEST_F(FreehandToolsTest, ErasingRestoresTheEmptyCellLook) {
                          << sizeIndex << " tool " << tool << " button " << button);
             startWithSize(sizeIndex);
             draw("", 'g');
-            editor->colours.value = {kTransparentColour, static_cast<std::int32_t>(kBlue)};
-            const auto colours = editor->colours.value;
-            editor->tools.chooseTool(tool);
+            editor->colours().value = {kTransparentColour, static_cast<std::int32_t>(kBlue)};
+            const auto colours = editor->colours().value;
+            editor->tools().chooseTool(tool);
             click(button, 5, 6);
             expectPicture("T", 5, 6, 'g');
             expectViews();
-            EXPECT_EQ(editor->colours.value, colours);
+            EXPECT_EQ(editor->colours().value, colours);
         }
 }
 

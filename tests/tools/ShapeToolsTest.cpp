@@ -46,37 +46,37 @@ TEST_F(ShapeToolsTest, EveryShapeWritesExactlyItsPixelsInBothPlanes) {
                                         << " at size index " << c.sizeIndex);
         startWithSize(c.sizeIndex);
         draw("", 'g');
-        editor->colours.value = {c.left, c.right};
-        editor->tools.chooseTool(c.tool);
+        editor->colours().value = {c.left, c.right};
+        editor->tools().chooseTool(c.tool);
         press(c.button, at(c.x1), at(c.y1));
         move(c.button, at((c.x1 + c.x2) / 2 + 1, 3), at(c.y1 + 1, 3));
         move(c.button, at(c.x2, zoom() - 1), at(c.y2, zoom() - 1));
         release(c.button, at(c.x2, zoom() - 1), at(c.y2, zoom() - 1));
         expectPicture(c.picture, c.ox, c.oy, 'g');
         expectViews();
-        EXPECT_TRUE(editor->doc.modified);
-        EXPECT_EQ(editor->readoutToXY, "");
+        EXPECT_TRUE(editor->doc().modified);
+        EXPECT_EQ(editor->readoutToXY(), "");
     }
 }
 
 TEST_F(ShapeToolsTest, RubberBandIsInvertedOutlineThatErasesItself) {
-    editor->tools.chooseTool(T::Rectangle);
-    const Plane before = editor->canvas.PicMain;
+    editor->tools().chooseTool(T::Rectangle);
+    const Plane before = editor->canvas().PicMain;
     move(0, 5 * 12 + 3, 11 * 12 + 11);
-    EXPECT_EQ(editor->readoutXY, "05, 11");
+    EXPECT_EQ(editor->readoutXY(), "05, 11");
     press(1, 13, 13);
-    EXPECT_EQ(editor->readoutToXY, "");
-    EXPECT_EQ(editor->canvas.PicMain, before) << "nothing drawn at mouse-down";
+    EXPECT_EQ(editor->readoutToXY(), "");
+    EXPECT_EQ(editor->canvas().PicMain, before) << "nothing drawn at mouse-down";
     // Each point snaps to its cell's centre: 102 in cell 8, 66 in cell 5.
     for (const auto& [x, y, centre] : {std::tuple{100, 100, 102}, {60, 61, 66}}) {
         move(1, x, y);
         Plane band = before;
         drawBox(band, 13, 13, centre, centre, Pen{kBlack, 1, PenMode::Invert});
-        EXPECT_EQ(editor->canvas.PicMain, band) << centre;
+        EXPECT_EQ(editor->canvas().PicMain, band) << centre;
     }
-    EXPECT_EQ(editor->readoutXY, "05, 05");
-    EXPECT_EQ(editor->readoutToXY, "05, 05");
-    EXPECT_FALSE(editor->doc.modified) << "the planes wait for mouse-up";
+    EXPECT_EQ(editor->readoutXY(), "05, 05");
+    EXPECT_EQ(editor->readoutToXY(), "05, 05");
+    EXPECT_FALSE(editor->doc().modified) << "the planes wait for mouse-up";
     release(1, 60, 61);
     expectPicture("kkkkk/k...k/k...k/k...k/kkkkk", 1, 1, 'T');
 }
@@ -84,13 +84,13 @@ TEST_F(ShapeToolsTest, RubberBandIsInvertedOutlineThatErasesItself) {
 // Far past the canvas the figure keeps its shape and is clipped, cheaply.
 TEST_F(ShapeToolsTest, DragFarOffTheCanvasIsClipped) {
     // A line towards icon pixel (300, 100) keeps its slope of one in three.
-    editor->tools.chooseTool(T::Line);
+    editor->tools().chooseTool(T::Line);
     drag(1, {{at(0), at(0)}, {at(300), at(100)}});
     EXPECT_EQ(pixelAt(30, 10), std::make_pair(kBlack, kBlack));
-    EXPECT_TRUE(editor->doc.isTransparent(10, 10));
+    EXPECT_TRUE(editor->doc().isTransparent(10, 10));
 
     draw("", 'g');
-    editor->tools.chooseTool(T::Rectangle);
+    editor->tools().chooseTool(T::Rectangle);
     press(1, at(30), at(30));
     move(1, 1000000, -1000000);
     release(1, 1000000, -1000000);

@@ -30,15 +30,15 @@ std::vector<std::string> rowsOf(const char* picture) {
 
 void ToolsFixture::draw(const char* picture, char background) {
     const auto rows = rowsOf(picture);
-    for (int y = 0; y < editor->doc.size; ++y)
-        for (int x = 0; x < editor->doc.size; ++x) {
+    for (int y = 0; y < editor->doc().size; ++y)
+        for (int x = 0; x < editor->doc().size; ++x) {
             const std::string row = y < static_cast<int>(rows.size()) ? rows[y] : "";
             const char letter =
                 x < static_cast<int>(row.size()) && row[x] != '.' ? row[x] : background;
             for (const Look& look : kLooks)
                 if (look.letter == letter) {
-                    editor->doc.PicImage.setPixel(x, y, look.colour);
-                    editor->doc.PicMask.setPixel(x, y, look.mask);
+                    editor->doc().PicImage.setPixel(x, y, look.colour);
+                    editor->doc().PicMask.setPixel(x, y, look.mask);
                 }
         }
     editor->refresh();
@@ -63,16 +63,16 @@ void ToolsFixture::expectPicture(const char* expected, int ox, int oy, char back
     const auto rows = rowsOf(expected);
     const int w = static_cast<int>(rows[0].size()), h = static_cast<int>(rows.size());
     EXPECT_EQ(picture(ox, oy, w, h, background), expected);
-    for (int y = 0; y < editor->doc.size; ++y)
-        for (int x = 0; x < editor->doc.size; ++x) {
+    for (int y = 0; y < editor->doc().size; ++y)
+        for (int x = 0; x < editor->doc().size; ++x) {
             const bool inside = x >= ox && x < ox + w && y >= oy && y < oy + h;
             ASSERT_TRUE(inside || picture(x, y, 1, 1, background) == ".") << x << "," << y;
         }
 }
 
 void ToolsFixture::mark(int x1, int y1, int x2, int y2) {
-    if (editor->tools.currentTool != DrawingTools::Select)
-        editor->tools.chooseTool(DrawingTools::Select);
+    if (editor->tools().currentTool != DrawingTools::Select)
+        editor->tools().chooseTool(DrawingTools::Select);
     drag(1, {{x1, y1}, {x2, y2}});
 }
 
@@ -85,6 +85,6 @@ void ToolsFixture::expectViews(bool withFloating, bool withMarquee) const {
         canvas.drawFloating(doc(), r.Left, r.Top, r.Right, r.Bottom);
     if (withMarquee)
         canvas.drawSelectionRect(r.Left, r.Top, r.Right, r.Bottom);
-    EXPECT_EQ(editor->canvas.PicMain, canvas.PicMain);
-    EXPECT_EQ(editor->canvas.PicIcon, canvas.PicIcon);
+    EXPECT_EQ(editor->canvas().PicMain, canvas.PicMain);
+    EXPECT_EQ(editor->canvas().PicIcon, canvas.PicIcon);
 }

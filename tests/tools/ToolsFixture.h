@@ -13,20 +13,9 @@ class ToolsFixture : public EditorFixture {
     static constexpr Colour kRed = 0x0000FF;
     static constexpr Colour kBlue = 0xFF0000;
     static constexpr Colour kGreen = 0x00FF00;
-    // The Edit menu's items.
-    enum Item {
-        Undo = 0,
-        Redo,
-        Cut = 3,
-        Copy,
-        Paste,
-        PasteOpaque,
-        Delete,
-        Deselect = 9,
-        SelectAll
-    };
+    using enum EditAction;
 
-    int zoom() const { return editor->doc.zoom; }
+    int zoom() const { return editor->doc().zoom; }
     // A canvas coordinate inside the cell of icon pixel p, offset pixels from
     // the cell's corner (1 is just inside the grid line, zoom - 1 the far edge).
     int at(int p, int offset = 1) const { return p * zoom() + offset; }
@@ -35,12 +24,13 @@ class ToolsFixture : public EditorFixture {
         release(button, at(x), at(y));
     }
     void setColours(Colour left, Colour right) {
-        editor->colours.value = {static_cast<std::int32_t>(left), static_cast<std::int32_t>(right)};
+        editor->colours().value = {static_cast<std::int32_t>(left),
+                                   static_cast<std::int32_t>(right)};
     }
     // Icon pixel (x, y) in colour c, opaque or inverting (mask white).
     void paint(int x, int y, Colour c, Colour mask = kBlack) {
-        editor->doc.PicImage.setPixel(x, y, c);
-        editor->doc.PicMask.setPixel(x, y, mask);
+        editor->doc().PicImage.setPixel(x, y, c);
+        editor->doc().PicMask.setPixel(x, y, mask);
     }
     // Shows the painted planes and records them, as an edit does.
     void recordPainting() {
@@ -61,8 +51,8 @@ class ToolsFixture : public EditorFixture {
     // floating selection over it and the marquee around it when asked.
     void expectViews(bool withFloating = false, bool withMarquee = false) const;
 
-    std::size_t undoSize() const { return editor->undoRedo.UndoStack.size(); }
-    Selection& sel() { return editor->selection; }
-    const Selection::Rect& rect() const { return editor->selection.SelRect; }
-    const IconDocument& doc() const { return editor->doc; }
+    std::size_t undoSize() const { return editor->undoRedo().UndoStack.size(); }
+    Selection& sel() { return editor->selection(); }
+    const Selection::Rect& rect() const { return editor->selection().SelRect; }
+    const IconDocument& doc() const { return editor->doc(); }
 };

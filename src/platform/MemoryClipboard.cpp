@@ -1,4 +1,4 @@
-#include "support/MemoryClipboard.h"
+#include "platform/MemoryClipboard.h"
 
 void MemoryClipboard::setImage(const Plane& p) {
     picture = p;

@@ -2,7 +2,8 @@
 
 #include "platform/ClipboardService.h"
 
-// A clipboard that lives in the test.
+// A clipboard of the editor's own, for runs without a system clipboard
+// (tests, the command line): what is put on it stays in memory.
 class MemoryClipboard : public ClipboardService {
   public:
     bool hasImage() const override { return !picture.isEmpty(); }

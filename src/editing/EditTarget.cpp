@@ -1,0 +1,26 @@
+#include "editing/EditTarget.h"
+
+#include "document/IconDocument.h"
+#include "editing/EditContext.h"
+#include "editing/Selection.h"
+
+EditTarget targetFor(EditContext& context, bool liftMarked) {
+    IconDocument& doc = context.doc();
+    Selection& selection = context.selection();
+    if (selection.SelMarked && liftMarked)
+        selection.BeginMove();
+    if (selection.SelFloating)
+        return {EditTarget::Floating, doc.PicSelImage, doc.PicSelMask};
+    if (selection.SelMarked)
+        return {EditTarget::Marked, doc.PicSelImage, doc.PicSelMask};
+    return {EditTarget::Whole, doc.PicImage, doc.PicMask};
+}
+
+void finishEdit(EditContext& context, const EditTarget& target) {
+    if (target.kind == EditTarget::Whole) {
+        context.refresh();
+        context.recordEdit();
+        return;
+    }
+    context.selection().redrawFloating();
+}
