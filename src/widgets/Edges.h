@@ -8,6 +8,11 @@ class QPainter;
 // The 3-D edges of the program's windows, drawn with the style's shades so
 // they follow the desktop's colours.
 namespace Edges {
+// A sunken edge is one pixel wide and lies around the control it frames.
+inline QRect sunkenAround(const QRect& control) {
+    return control.adjusted(-1, -1, 1, 1);
+}
+
 // A sunken outer border inside rect: one pixel of shadow along the top and
 // left, one of highlight along the bottom and right.
 void sunken(QPainter& painter, const QRect& rect, const QPalette& palette);

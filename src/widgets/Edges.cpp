@@ -1,4 +1,4 @@
-#include "app/Edges.h"
+#include "widgets/Edges.h"
 
 #include <QPainter>
 #include <qdrawutil.h>
