@@ -16,6 +16,10 @@ inline QRect sunkenAround(const QRect& control) {
 // A sunken outer border inside rect: one pixel of shadow along the top and
 // left, one of highlight along the bottom and right.
 void sunken(QPainter& painter, const QRect& rect, const QPalette& palette);
+// A sunken inner border inside rect: the same lines one shade deeper, dark
+// shadow along the top and left and light along the bottom and right. The
+// dialogs frame their previews with it.
+void sunkenInner(QPainter& painter, const QRect& rect, const QPalette& palette);
 // An etched groove, one dark and one light line, inside rect.
 void etched(QPainter& painter, const QRect& rect, const QPalette& palette);
 // The two-pixel sunken band along the top of a client area.
