@@ -1,6 +1,6 @@
 #include "app/AboutBox.h"
 
-#include "app/WindowPlacement.h"
+#include "widgets/WindowPlacement.h"
 
 #include <QDialogButtonBox>
 #include <QLabel>

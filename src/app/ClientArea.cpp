@@ -1,8 +1,8 @@
 #include "app/ClientArea.h"
 
-#include "app/Edges.h"
 #include "app/MainLayout.h"
-#include "app/ToolIcons.h"
+#include "widgets/Edges.h"
+#include "widgets/ToolIcons.h"
 
 #include <QPainter>
 
@@ -16,15 +16,15 @@ void ClientArea::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     const QPalette& pal = palette();
     Edges::topBand(painter, width(), pal);
-    Edges::sunken(painter, sunkenAround(QRect(kCanvas, QSize(385, 385))), pal);
+    Edges::sunken(painter, Edges::sunkenAround(QRect(kCanvas, QSize(385, 385))), pal);
     Edges::sunken(painter, kPreviewBox, pal);
     Edges::sunken(painter, kReadoutXYBox, pal);
     Edges::sunken(painter, kReadoutToXYBox, pal);
-    Edges::sunken(painter, sunkenAround(QRect(kPal, QSize(51, 335))), pal);
-    Edges::sunken(painter, sunkenAround(QRect(kMiniPal, QSize(96, 52))), pal);
-    Edges::sunken(painter, sunkenAround(QRect(kGreyPal, QSize(92, 32))), pal);
+    Edges::sunken(painter, Edges::sunkenAround(QRect(kPal, QSize(51, 335))), pal);
+    Edges::sunken(painter, Edges::sunkenAround(QRect(kMiniPal, QSize(96, 52))), pal);
+    Edges::sunken(painter, Edges::sunkenAround(QRect(kGreyPal, QSize(92, 32))), pal);
     for (const QPoint& swatch : {kScreen, kLeft, kRight})
-        Edges::sunken(painter, sunkenAround(QRect(swatch, kSwatch)), pal);
+        Edges::sunken(painter, Edges::sunkenAround(QRect(swatch, kSwatch)), pal);
     for (int tool = 0; tool < ToolIcons::kToolCount; ++tool)
         Edges::etched(painter, toolCell(tool), pal);
 }

@@ -40,9 +40,4 @@ constexpr QPoint kRight(548, 383); // PicRight, 23 x 12
 constexpr QRect kLeftLabel(513, 360, 32, 18);
 constexpr QRect kRightLabel(513, 380, 32, 18);
 constexpr QSize kSwatch(23, 12);
-
-// A sunken edge is one pixel wide and lies around the control it frames.
-inline QRect sunkenAround(const QRect& control) {
-    return control.adjusted(-1, -1, 1, 1);
-}
 } // namespace MainLayout

@@ -1,6 +1,6 @@
 #include "app/QtClipboard.h"
 
-#include "app/PlaneImage.h"
+#include "widgets/PlaneImage.h"
 
 #include <QClipboard>
 #include <QGuiApplication>

@@ -3,11 +3,11 @@
 #include "app/AboutBox.h"
 #include "app/ClientArea.h"
 #include "app/MainLayout.h"
-#include "app/PictureBox.h"
 #include "app/QtClipboard.h"
 #include "app/QtUserDialogs.h"
-#include "app/ToolIcons.h"
-#include "app/WindowPlacement.h"
+#include "widgets/PictureBox.h"
+#include "widgets/ToolIcons.h"
+#include "widgets/WindowPlacement.h"
 
 #include <QAction>
 #include <QApplication>

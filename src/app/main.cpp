@@ -1,5 +1,5 @@
-#include "app/ToolIcons.h"
 #include "app/frmMain.h"
+#include "widgets/ToolIcons.h"
 
 #include <QApplication>
 #include <QStringList>

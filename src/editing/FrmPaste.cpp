@@ -1,7 +1,7 @@
 #include "editing/FrmPaste.h"
 
-#include "app/OkCancelButtons.h"
-#include "app/WindowPlacement.h"
+#include "widgets/OkCancelButtons.h"
+#include "widgets/WindowPlacement.h"
 
 #include <QGroupBox>
 #include <QPainter>

@@ -1,12 +1,11 @@
 #include "fileio/FrmHotSpot.h"
 
-#include "app/Edges.h"
-#include "app/MainLayout.h"
-#include "app/OkCancelButtons.h"
-#include "app/PictureBox.h"
-#include "app/ToolIcons.h"
-#include "app/WindowPlacement.h"
 #include "platform/Raster.h"
+#include "widgets/Edges.h"
+#include "widgets/OkCancelButtons.h"
+#include "widgets/PictureBox.h"
+#include "widgets/ToolIcons.h"
+#include "widgets/WindowPlacement.h"
 
 #include <QLabel>
 #include <QPainter>
@@ -72,8 +71,8 @@ FrmHotSpot::FrmHotSpot(const Plane& canvas, int zoom, int maxIndex, QWidget* par
 
 void FrmHotSpot::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    Edges::sunken(painter, MainLayout::sunkenAround(PicCursor->geometry()), palette());
-    Edges::sunken(painter, MainLayout::sunkenAround(ImgXY->geometry()), palette());
+    Edges::sunken(painter, Edges::sunkenAround(PicCursor->geometry()), palette());
+    Edges::sunken(painter, Edges::sunkenAround(ImgXY->geometry()), palette());
     const auto left = Qt::AlignLeft | Qt::AlignVCenter;
     painter.drawText(kHotXCaption, left, QStringLiteral("Hot X:"));
     painter.drawText(kHotYCaption, left, QStringLiteral("Hot Y:"));

@@ -1,7 +1,7 @@
 #include "fileio/FrmMultiIconDialog.h"
 
-#include "app/OkCancelButtons.h"
-#include "app/WindowPlacement.h"
+#include "widgets/OkCancelButtons.h"
+#include "widgets/WindowPlacement.h"
 
 #include <QFontDatabase>
 #include <QLabel>

@@ -1,7 +1,7 @@
-#include "app/PictureBox.h"
 #include "editing/FrmPaste.h"
 #include "fileio/FrmHotSpot.h"
 #include "fileio/FrmMultiIconDialog.h"
+#include "widgets/PictureBox.h"
 
 #include <QGroupBox>
 #include <QLabel>

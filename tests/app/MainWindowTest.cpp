@@ -1,7 +1,7 @@
 #include "MainWindowFixture.h"
 
-#include "app/PictureBox.h"
-#include "app/ToolIcons.h"
+#include "widgets/PictureBox.h"
+#include "widgets/ToolIcons.h"
 
 #include <QApplication>
 #include <QLabel>

@@ -1,5 +1,4 @@
 #include "app/QtUserDialogs.h"
-#include "app/WindowPlacement.h"
 
 #include <QDir>
 #include <QFileDialog>
@@ -41,12 +40,6 @@ TEST(QtUserDialogs, FileDialogsOfEachModeAndTheChoiceTheyGive) {
     EXPECT_EQ(QFileInfo(choice.path).fileName(), "tool.exe");
     EXPECT_EQ(choice.title, "tool.exe");
     EXPECT_EQ(choice.filterIndex, 4);
-}
-
-TEST(WindowPlacement, CentredAcrossAndAThirdDown) {
-    const QSize window(582, 460);
-    EXPECT_EQ(WindowPlacement::topLeft({800, 600}, window), QPoint(109, 46));
-    EXPECT_EQ(WindowPlacement::topLeft({400, 300}, window), QPoint(-91, -53));
 }
 
 } // namespace

@@ -1,4 +1,4 @@
-#include "app/OkCancelButtons.h"
+#include "widgets/OkCancelButtons.h"
 
 #include <QPushButton>
 

@@ -1,4 +1,4 @@
-#include "app/PlaneImage.h"
+#include "widgets/PlaneImage.h"
 
 QRgb PlaneImage::toRgb(Colour c) {
     return qRgb(redOf(c), greenOf(c), blueOf(c));

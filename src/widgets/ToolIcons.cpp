@@ -1,7 +1,7 @@
-#include "app/ToolIcons.h"
+#include "widgets/ToolIcons.h"
 
-#include "app/PlaneImage.h"
 #include "platform/Shapes.h"
+#include "widgets/PlaneImage.h"
 
 #include <QImage>
 #include <QPainter>

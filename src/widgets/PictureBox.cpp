@@ -1,6 +1,6 @@
-#include "app/PictureBox.h"
+#include "widgets/PictureBox.h"
 
-#include "app/PlaneImage.h"
+#include "widgets/PlaneImage.h"
 
 #include <QMouseEvent>
 #include <QPainter>
