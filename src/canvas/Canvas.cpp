@@ -51,9 +51,7 @@ void Canvas::present(int zoom) {
 void Canvas::compose(const IconDocument& doc) {
     const int n = doc.size;
     drawBackground(doc.zoom);
-    stretchBlt(PicMainCopy, 0, 0, kCanvasSize, kCanvasSize, doc.PicMask, 0, 0, n, n, RasterOp::And);
-    stretchBlt(PicMainCopy, 0, 0, kCanvasSize, kCanvasSize, doc.PicImage, 0, 0, n, n,
-               RasterOp::Xor);
+    stretchMasked(PicMainCopy, 0, 0, kCanvasSize, kCanvasSize, doc.PicMask, doc.PicImage);
     present(doc.zoom);
     composePreview(doc);
 }
@@ -61,8 +59,7 @@ void Canvas::compose(const IconDocument& doc) {
 void Canvas::composePreview(const IconDocument& doc) {
     const int n = doc.size;
     PicIcon.fill(kButtonFace);
-    bitBlt(PicIcon, 0, 0, n, n, doc.PicMask, 0, 0, RasterOp::And);
-    bitBlt(PicIcon, 0, 0, n, n, doc.PicImage, 0, 0, RasterOp::Xor);
+    drawMasked(PicIcon, 0, 0, doc.PicMask, doc.PicImage);
 }
 
 void Canvas::refreshFromPlanes(IconDocument& doc) {
@@ -71,15 +68,9 @@ void Canvas::refreshFromPlanes(IconDocument& doc) {
 }
 
 void Canvas::drawFloating(const IconDocument& doc, int left, int top, int right, int bottom) {
-    const int w = doc.PicSelMask.width(), h = doc.PicSelMask.height();
-    stretchBlt(PicMain, left, top, right - left, bottom - top, doc.PicSelMask, 0, 0, w, h,
-               RasterOp::And);
-    stretchBlt(PicMain, left, top, right - left, bottom - top, doc.PicSelImage, 0, 0, w, h,
-               RasterOp::Xor);
+    stretchMasked(PicMain, left, top, right - left, bottom - top, doc.PicSelMask, doc.PicSelImage);
     drawGrid(doc.zoom);
-    const int x = left / doc.zoom, y = top / doc.zoom;
-    bitBlt(PicIcon, x, y, w, h, doc.PicSelMask, 0, 0, RasterOp::And);
-    bitBlt(PicIcon, x, y, w, h, doc.PicSelImage, 0, 0, RasterOp::Xor);
+    drawMasked(PicIcon, left / doc.zoom, top / doc.zoom, doc.PicSelMask, doc.PicSelImage);
 }
 
 void Canvas::refreshWithFloating(IconDocument& doc, int left, int top, int right, int bottom) {

@@ -8,12 +8,19 @@
 #include "platform/Raster.h"
 #include "platform/Services.h"
 
+int Selection::iconLeft() const {
+    return SelRect.Left / context_.doc().zoom;
+}
+
+int Selection::iconTop() const {
+    return SelRect.Top / context_.doc().zoom;
+}
+
 void Selection::LiftSelection() {
     IconDocument& doc = context_.doc();
-    const int zoom = doc.zoom;
-    const int w = (SelRect.Right - SelRect.Left) / zoom;
-    const int h = (SelRect.Bottom - SelRect.Top) / zoom;
-    const int x = SelRect.Left / zoom, y = SelRect.Top / zoom;
+    const int w = (SelRect.Right - SelRect.Left) / doc.zoom;
+    const int h = (SelRect.Bottom - SelRect.Top) / doc.zoom;
+    const int x = iconLeft(), y = iconTop();
     doc.PicSelImage.reset(w, h, kBlack);
     bitBlt(doc.PicSelImage, 0, 0, w, h, doc.PicImage, x, y, RasterOp::Copy);
     doc.PicSelMask.reset(w, h, kWhite);
@@ -38,11 +45,9 @@ void Selection::EndSelectionMark() {
 void Selection::CommitSelection() {
     EndSelectionMark();
     IconDocument& doc = context_.doc();
-    const int zoom = doc.zoom;
-    const int x = SelRect.Left / zoom, y = SelRect.Top / zoom;
+    const int x = iconLeft(), y = iconTop();
     const int w = doc.PicSelMask.width(), h = doc.PicSelMask.height();
-    bitBlt(doc.PicImage, x, y, w, h, doc.PicSelMask, 0, 0, RasterOp::And);
-    bitBlt(doc.PicImage, x, y, w, h, doc.PicSelImage, 0, 0, RasterOp::Xor);
+    drawMasked(doc.PicImage, x, y, doc.PicSelMask, doc.PicSelImage);
     bitBlt(doc.PicMask, x, y, w, h, doc.PicSelMask, 0, 0, RasterOp::And);
     // A redraw, not a change: a selection that was only marked leaves the
     // document as unmodified as it was.
@@ -86,8 +91,7 @@ void Selection::Copy() {
     const int w = doc.PicSelMask.width(), h = doc.PicSelMask.height();
     // Over the white background transparent pixels come out white.
     PicClip.reset(w, h, kWhite);
-    bitBlt(PicClip, 0, 0, w, h, doc.PicSelMask, 0, 0, RasterOp::And);
-    bitBlt(PicClip, 0, 0, w, h, doc.PicSelImage, 0, 0, RasterOp::Xor);
+    drawMasked(PicClip, 0, 0, doc.PicSelMask, doc.PicSelImage);
     context_.services().clipboard.setImage(PicClip);
 }
 

@@ -19,6 +19,9 @@ class Selection {
         : context_(context), dialogs_(dialogs) {}
 
     bool exists() const { return SelMarked || SelFloating; }
+    // SelRect's top-left corner in icon pixels.
+    int iconLeft() const;
+    int iconTop() const;
 
     // Copies the SelRect area of both document planes into the selection
     // planes.

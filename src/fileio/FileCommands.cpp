@@ -187,8 +187,7 @@ void FileCommands::saveAsBitmap() {
     // The picture as it shows over a white background: transparent pixels
     // become white, inverting ones white XOR their colour.
     Plane PicClip(doc.size, doc.size, kWhite);
-    bitBlt(PicClip, 0, 0, doc.size, doc.size, doc.PicMask, 0, 0, RasterOp::And);
-    bitBlt(PicClip, 0, 0, doc.size, doc.size, doc.PicImage, 0, 0, RasterOp::Xor);
+    drawMasked(PicClip, 0, 0, doc.PicMask, doc.PicImage);
     const int colours = ModPalette::countColours(PicClip, false);
     if (!ModFileIO::writeBitmap(PicClip, colours, file->path))
         showError(QStringLiteral("Failed to Save Icon As Bitmap."));

@@ -131,3 +131,16 @@ void fillRect(Plane& dst, int left, int top, int right, int bottom, Colour c) {
     for (int y = top; y < bottom; ++y)
         std::fill(dst.row(y) + left, dst.row(y) + right, c);
 }
+
+void drawMasked(Plane& dst, int dx, int dy, const Plane& mask, const Plane& image) {
+    const int w = mask.width(), h = mask.height();
+    bitBlt(dst, dx, dy, w, h, mask, 0, 0, RasterOp::And);
+    bitBlt(dst, dx, dy, w, h, image, 0, 0, RasterOp::Xor);
+}
+
+void stretchMasked(Plane& dst, int dx, int dy, int dw, int dh, const Plane& mask,
+                   const Plane& image) {
+    const int w = mask.width(), h = mask.height();
+    stretchBlt(dst, dx, dy, dw, dh, mask, 0, 0, w, h, RasterOp::And);
+    stretchBlt(dst, dx, dy, dw, dh, image, 0, 0, w, h, RasterOp::Xor);
+}

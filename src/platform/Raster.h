@@ -24,5 +24,14 @@ void bitBlt(Plane& dst, int dx, int dy, int w, int h, const Plane& src, int sx, 
 void stretchBlt(Plane& dst, int dx, int dy, int dw, int dh, const Plane& src, int sx, int sy,
                 int sw, int sh, RasterOp op);
 
+// Draws a picture of the icon formats over what dst holds, its top-left
+// corner at (dx, dy): dst AND mask, then XOR image, both of the mask's size.
+// Opaque pixels (mask black) replace, transparent ones (mask white, image
+// black) keep dst, inverting ones (mask white) invert it.
+void drawMasked(Plane& dst, int dx, int dy, const Plane& mask, const Plane& image);
+// The same, stretched to dw x dh.
+void stretchMasked(Plane& dst, int dx, int dy, int dw, int dh, const Plane& mask,
+                   const Plane& image);
+
 // Fill the rectangle [left, right) x [top, bottom), clipped to the plane.
 void fillRect(Plane& dst, int left, int top, int right, int bottom, Colour c);

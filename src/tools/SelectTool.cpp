@@ -68,8 +68,7 @@ void SelectTool::dragTo(int x, int y) {
     Canvas& canvas = context_.canvas();
     Selection::Rect& r = sel.SelRect;
     r = Selection::Rect{x - offsetLeft_, y - offsetTop_, x + offsetRight_, y + offsetBottom_};
-    const int zoom = doc.zoom;
-    readouts_.toXY = Coordinates::pointText(r.Left / zoom, r.Top / zoom);
+    readouts_.toXY = Coordinates::pointText(sel.iconLeft(), sel.iconTop());
     bitBlt(canvas.PicMain, 0, 0, Canvas::kCanvasSize, Canvas::kCanvasSize, canvas.PicMainCopy, 0, 0,
            RasterOp::Copy);
     // The preview, too, starts again from the planes so the selection leaves

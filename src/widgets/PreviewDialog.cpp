@@ -75,8 +75,7 @@ void PreviewDialog::showPreview(int index, const Planes& planes) {
     const int w = planes.colour.width();
     const int h = planes.colour.height();
     Plane shown(w, h, previewBackground());
-    bitBlt(shown, 0, 0, w, h, planes.mask, 0, 0, RasterOp::And);
-    bitBlt(shown, 0, 0, w, h, planes.colour, 0, 0, RasterOp::Xor);
+    drawMasked(shown, 0, 0, planes.mask, planes.colour);
     const Preview& preview = previews_.at(index);
     const QRect& frame = preview.frame;
     preview.box->move(frame.x() + (frame.width() - w) / 2, frame.y() + (frame.height() - h) / 2);
