@@ -6,8 +6,9 @@ PasteFit PasteFit::keepingAspect(int pictureWidth, int pictureHeight, int iconWi
                                  int iconHeight) {
     // Intended: the picture is shrunk in 10,000 equal single-precision steps of
     // its own size, not by one division, and only its larger side is tested
-    // against the icon. The sizes it gives (float rounding included) are the
-    // ones this editor has always pasted at.
+    // against the icon. The sizes it gives, float rounding included, are part
+    // of how a paste looks, so the same picture pastes at the same size in
+    // every version of the editor.
     float pw = static_cast<float>(pictureWidth);
     float ph = static_cast<float>(pictureHeight);
     const float stepW = pw / 10000.0f;

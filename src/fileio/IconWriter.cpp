@@ -13,7 +13,9 @@ namespace {
 
 // The colour table written before an image's rows. The 2- and 16-entry
 // tables are never filled, so 1- and 4-bit files are written with all-black
-// tables; that is how this program has always written them, and it stays.
+// tables. Kept on purpose: users compare the files this editor writes byte
+// for byte with ones it wrote before, and a new table would change every 1-
+// and 4-bit file.
 ColourTable tableFor(int depth, const Plane& image, bool forIcon) {
     if (depth == 8)
         return forIcon ? ModPalette::buildIconPalette(image)

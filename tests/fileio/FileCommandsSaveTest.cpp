@@ -110,7 +110,7 @@ TEST_F(FileCommandsSaveTest, AnImageOfAMultiImageFileSavesOnlyToAnotherFile) {
     openThroughDialog(source);
     edit(6, 6, rgb(60, 70, 80));
     editor->files().saveSucceeded = true;
-    // Kept as it always was: the in-place rewrite fails, the file stays.
+    // On purpose: the in-place rewrite is refused and the file stays.
     EXPECT_FALSE(editor->files().save());
     EXPECT_EQ(shown(), brevikError("Unable to save the file pair.ico"));
     EXPECT_FALSE(editor->files().saveSucceeded);
