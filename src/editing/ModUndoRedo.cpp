@@ -36,12 +36,16 @@ bool ModUndoRedo::Undo(IconDocument& doc) {
 }
 
 bool ModUndoRedo::Redo(IconDocument& doc) {
-    if (RedoStack.empty())
-        return false;
-    UndoStack.push_back({QString(), std::move(RedoStack.back().snapshot)});
-    RedoStack.pop_back();
-    restore(doc, UndoStack.back().snapshot);
-    return true;
+    // With nothing to redo only the move is skipped: the planes still go
+    // back to the current state, which undoes a change nothing recorded.
+    const bool moved = !RedoStack.empty();
+    if (moved) {
+        UndoStack.push_back({QString(), std::move(RedoStack.back().snapshot)});
+        RedoStack.pop_back();
+    }
+    if (!UndoStack.empty())
+        restore(doc, UndoStack.back().snapshot);
+    return moved;
 }
 
 void ModUndoRedo::restore(IconDocument& doc, const Plane& snapshot) {

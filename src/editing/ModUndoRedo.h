@@ -29,7 +29,8 @@ class ModUndoRedo {
     // into the planes. The caller refreshes the views. Does nothing (and
     // says so) when there is nothing to undo.
     bool Undo(IconDocument& doc);
-    // Moves the last undone state back and puts it into the planes.
+    // Moves the last undone state back, then puts the current state into the
+    // planes, also when there was nothing to move; false in that case.
     bool Redo(IconDocument& doc);
 
     bool canUndo() const { return UndoStack.size() >= 2; }

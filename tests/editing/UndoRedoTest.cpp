@@ -101,6 +101,21 @@ TEST_F(UndoRedoTest, NewEditAfterUndoEmptiesRedoAlreadyAtMouseDown) {
     EXPECT_EQ(pixelAt(5, 5), std::make_pair(kTeal, kBlack));
 }
 
+TEST_F(UndoRedoTest, RedoWithNothingToRedoStillPutsBackTheCurrentState) {
+    paint(4, 3, kBlue, kWhite); // inverting
+    recordPainting();
+    mark(at(4, 0), at(3, 0), at(5, 0), at(4, 0));
+    // Committing an unmoved mark stamps the area onto itself, which turns the
+    // inverting pixel transparent, and records nothing.
+    editor->editAction(Deselect);
+    ASSERT_TRUE(doc().isTransparent(4, 3));
+    ASSERT_FALSE(editor->editActionEnabled(Redo));
+    editor->editAction(Redo);
+    EXPECT_EQ(pixelAt(4, 3), std::make_pair(kBlue, kWhite));
+    EXPECT_EQ(undoSize(), 2u);
+    expectViews();
+}
+
 TEST_F(UndoRedoTest, NewStartsAFreshHistoryAtTheNewSize) {
     stroke(1, 1, kOrange);
     stroke(2, 2, kOrange);
