@@ -22,5 +22,8 @@ void finishEdit(EditContext& context, const EditTarget& target) {
         context.recordEdit();
         return;
     }
-    context.selection().redrawFloating();
+    Selection& selection = context.selection();
+    if (target.kind == EditTarget::Marked)
+        selection.MarkedChanged = true;
+    selection.redrawFloating();
 }

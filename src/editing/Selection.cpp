@@ -37,7 +37,8 @@ void Selection::BeginMove() {
 
 void Selection::EndSelectionMark() {
     drawMarquee();
-    SelUnchanged = SelMarked;
+    SelUnchanged = SelMarked && !MarkedChanged;
+    MarkedChanged = false;
     SelMarked = false;
     SelFloating = false;
 }
@@ -96,11 +97,10 @@ void Selection::Copy() {
 }
 
 void Selection::Paste(bool opaque) {
+    // With no picture on the clipboard (the shortcut works while the menu
+    // item is greyed) PicClip is empty and the paste goes on: the selection
+    // is committed and an empty one floats, which draws and loses nothing.
     PicClip = context_.services().clipboard.image();
-    // Reached through the shortcut while the menu item is greyed: there is
-    // nothing to paste, and the document and selection stay as they are.
-    if (PicClip.isEmpty())
-        return;
     const int cw = PicClip.width(), ch = PicClip.height();
     const int iw = context_.canvas().PicIcon.width(), ih = context_.canvas().PicIcon.height();
     if (cw > iw || ch > ih) {
@@ -157,6 +157,9 @@ void Selection::PlaceFloating() {
 }
 
 void Selection::drawMarquee() {
+    // An empty selection (an empty clipboard pasted) has no outline.
+    if (SelRect.Left == SelRect.Right || SelRect.Top == SelRect.Bottom)
+        return;
     context_.canvas().drawSelectionRect(SelRect.Left, SelRect.Top, SelRect.Right, SelRect.Bottom);
 }
 

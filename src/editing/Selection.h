@@ -63,6 +63,9 @@ class Selection {
     bool SelMarked = false;
     bool SelFloating = false;
     bool SelUnchanged = false;
+    // An operation changed the planes of a marked selection, so its commit
+    // is a change to record like that of a moved one.
+    bool MarkedChanged = false;
     // The answer of the "Paste Options" dialog: -1 cancelled, 0 "Shrink To
     // Fit", 1 "Shrink To Fit (Keep Aspect)".
     int PasteChoice = -1;

@@ -78,14 +78,17 @@ TEST_F(ClipboardExchangeTest, PictureFromAnotherProgramPastesFloatingWithWhiteTr
     EXPECT_EQ(editor().undoRedo().UndoStack.size(), 1u);
 }
 
-TEST_F(ClipboardExchangeTest, TextOnlyClipboardGreysPasteAndTheShortcutChangesNothing) {
+TEST_F(ClipboardExchangeTest, TextOnlyClipboardGreysPasteAndTheShortcutPastesNothingVisible) {
     QApplication::clipboard()->setText("not a picture");
     EXPECT_FALSE(editor().editActionEnabled(EditAction::Paste));
     EXPECT_FALSE(editor().editActionEnabled(EditAction::PasteOpaque));
+    const Plane image = editor().doc().PicImage, canvas = editor().canvas().PicMain;
     keys(Qt::Key_V);
-    EXPECT_FALSE(editor().selection().exists());
+    EXPECT_TRUE(editor().selection().SelFloating);
+    EXPECT_EQ(editor().selection().SelRect.Right, 0) << "the empty picture floats";
+    EXPECT_EQ(editor().doc().PicImage, image);
+    EXPECT_EQ(editor().canvas().PicMain, canvas) << "and draws nothing, no outline either";
     EXPECT_EQ(editor().undoRedo().UndoStack.size(), 1u);
-    EXPECT_FALSE(editor().doc().modified);
 }
 
 TEST_F(ClipboardExchangeTest, HugePictureShrinksThroughPasteOptionsToTheIcon) {

@@ -111,8 +111,9 @@ TEST_F(ClipboardTest, OnlyAPictureLargerThanTheIconAsksAndIsShrunkAsChosen) {
     }
 }
 
-// An empty clipboard, or Cancel in the paste dialog, changes nothing.
-TEST_F(ClipboardTest, PasteThatGivesNoPictureKeepsSelectionAndDocument) {
+// Cancel in the paste dialog changes nothing; an empty clipboard commits the
+// selection and pastes an empty one, which loses nothing.
+TEST_F(ClipboardTest, PasteThatGivesNoPictureLosesNothing) {
     for (const int size : {0, 40}) {
         SCOPED_TRACE(size);
         startWithSize(1);
@@ -126,11 +127,16 @@ TEST_F(ClipboardTest, PasteThatGivesNoPictureKeepsSelectionAndDocument) {
         editor->editAction(PasteOpaque);
         EXPECT_EQ(dialogs.pasteDialogs, size ? 2 : 0);
         EXPECT_EQ(sel().PasteChoice, -1);
-        EXPECT_TRUE(sel().SelMarked);
-        EXPECT_EQ(std::pair(rect().Left, rect().Right), std::pair(24, 60));
+        EXPECT_EQ(sel().SelMarked, size != 0);
+        EXPECT_EQ(sel().SelFloating, size == 0);
+        EXPECT_EQ(std::pair(rect().Left, rect().Right), size ? std::pair(24, 60) : std::pair(0, 0));
         EXPECT_EQ(doc().PicImage, image);
-        EXPECT_EQ(editor->canvas().PicMain, canvas);
-        EXPECT_EQ(undoSize(), 2u);
+        if (size) {
+            EXPECT_EQ(editor->canvas().PicMain, canvas);
+        } else {
+            expectViews(true, false);
+        }
+        EXPECT_EQ(undoSize(), size ? 2u : 3u) << "an empty paste, committed, records a state";
     }
 }
 

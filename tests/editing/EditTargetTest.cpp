@@ -40,6 +40,7 @@ TEST_F(EditTargetTest, TheSelectionIsRedrawnUnrecordedAndTheWholeIconRefreshedAn
         paint(1, 1, kRed);
         paint(2, 1, kRed);
         recordPainting();
+        const Plane imageBefore = doc().PicImage, maskBefore = doc().PicMask;
         const std::string selection = c.selection;
         if (selection != "none")
             mark(at(1, 0), at(1, 0), at(3, 0), at(2, 0)); // icon pixels (1, 1) and (2, 1)
@@ -59,6 +60,13 @@ TEST_F(EditTargetTest, TheSelectionIsRedrawnUnrecordedAndTheWholeIconRefreshedAn
             expectViews(true, true);
         }
         EXPECT_TRUE(doc().modified) << "whatever the target, the picture changed";
+
+        // Committed, the edit of a selection, marked ones included, is one
+        // state in the history, and Undo takes it back.
+        editor->editAction(Deselect);
+        editor->editAction(Undo);
+        EXPECT_EQ(doc().PicImage, imageBefore);
+        EXPECT_EQ(doc().PicMask, maskBefore);
     }
 }
 
