@@ -1,7 +1,7 @@
 #include "fileio/IconWriter.h"
 
 #include "fileio/ByteWriter.h"
-#include "fileio/IconLayout.h"
+#include "fileio/IconDirectory.h"
 #include "fileio/ModPalette.h"
 #include "fileio/PixelEncoder.h"
 
@@ -53,6 +53,12 @@ void writeInfoHeader(ByteWriter& w, qint32 width, qint32 height, int depth, quin
         w.u32(0);
 }
 
+// The entry of an image this program writes, placed right behind a
+// one-entry directory; the colour count is 0 at every depth.
+DirEntry newEntry(int width, int height, int planesField, int bitCountField, qint32 length) {
+    return {width, height, 0, 0, planesField, bitCountField, length, kHeaderBytes + kEntryBytes};
+}
+
 // BITMAPINFOHEADER, colour table, colour rows and mask rows of one icon image.
 void writeIconImage(QByteArray& out, const Plane& mask, const Plane& image, int depth,
                     quint32 imageSizeField) {
@@ -70,18 +76,10 @@ QByteArray singleImageFile(const Plane& mask, const Plane& image, int colourCoun
     if (!writable(mask, image))
         return out;
     const int depth = ModPalette::bitDepthFor(colourCount);
-    ByteWriter w(out);
-    w.u16(0);
-    w.u16(static_cast<quint32>(type));
-    w.u16(1);
-    w.u8(static_cast<quint32>(image.width()));
-    w.u8(static_cast<quint32>(image.height()));
-    w.u8(0); // colour count, 0 at every depth
-    w.u8(0);
-    w.u16(static_cast<quint32>(planesField));
-    w.u16(static_cast<quint32>(bitCountField));
-    w.i32(imageLength(image, depth));
-    w.u32(kHeaderBytes + kEntryBytes);
+    const qint32 length = imageLength(image, depth);
+    const DirEntry entry =
+        newEntry(image.width(), image.height(), planesField, bitCountField, length);
+    IconDirectory{{0, type, 1}, {entry}}.write(out);
     writeIconImage(out, mask, image, depth, 0);
     return out;
 }
@@ -122,56 +120,47 @@ QByteArray IconWriter::bitmapBytes(const Plane& picture, int colourCount) {
 }
 
 std::optional<QByteArray> IconWriter::multiIconBytes(const Plane& mask, const Plane& image,
-                                                     int colourCount, const QByteArray& source,
+                                                     int colourCount, const QByteArray& sourceBytes,
                                                      const IconDescription& chosen) {
-    const ByteView in(source);
-    const auto header = readHeader(in);
-    if (!writable(mask, image) || !header || header->count < 1 || chosen.index < 0 ||
-        chosen.index >= header->count)
+    const auto source = IconDirectory::read(ByteView(sourceBytes));
+    if (!writable(mask, image) || !source || source->header.count < 1 || chosen.index < 0 ||
+        chosen.index >= source->header.count)
         return std::nullopt;
-    const int count = header->count;
+    const int count = source->header.count;
     const int depth = ModPalette::bitDepthFor(colourCount);
     const qint32 newLength = imageLength(image, depth);
 
-    // Check every other entry and its data before writing anything, and keep
-    // the result within what a reader accepts.
+    // Check every other entry and its data before writing anything.
+    if (static_cast<int>(source->entries.size()) < count)
+        return std::nullopt;
+    const ByteView in(sourceBytes);
     std::vector<DirEntry> others;
-    qint64 total = entryOffset(count) + newLength;
     for (int i = 0; i < count; ++i) {
-        const auto entry = readEntry(in, i);
-        if (!entry || !in.contains(entry->imageOffset, entry->bytesInRes))
+        const DirEntry& entry = source->entries[i];
+        if (!in.contains(entry.imageOffset, entry.bytesInRes))
             return std::nullopt;
-        if (i == chosen.index)
-            continue;
-        others.push_back(*entry);
-        total += entry->bytesInRes;
-        if (total > kMaxFileBytes)
+        if (i != chosen.index)
+            others.push_back(entry);
+    }
+    // The edited image always becomes the first entry; the others follow in
+    // directory order, their data moved up behind it, and the result stays
+    // within what a reader accepts.
+    IconDirectory directory{source->header,
+                            {newEntry(chosen.width, chosen.height, 1, depth, newLength)}};
+    directory.entries.insert(directory.entries.end(), others.begin(), others.end());
+    qint64 offset = directory.size();
+    for (DirEntry& entry : directory.entries) {
+        entry.imageOffset = static_cast<qint32>(offset);
+        offset += entry.bytesInRes;
+        if (offset > kMaxFileBytes)
             return std::nullopt;
     }
 
     QByteArray out;
-    out.reserve(total);
-    ByteWriter w(out);
-    out.append(source.left(kHeaderBytes));
-    // The edited image always becomes the first entry.
-    w.u8(static_cast<quint32>(chosen.width));
-    w.u8(static_cast<quint32>(chosen.height));
-    w.u8(0);
-    w.u8(0);
-    w.u16(1);
-    w.u16(static_cast<quint32>(depth));
-    w.i32(newLength);
-    w.u32(static_cast<quint32>(entryOffset(count)));
-    for (int i = 0; i < count; ++i)
-        if (i != chosen.index)
-            out.append(source.mid(entryOffset(i), kEntryBytes));
+    out.reserve(offset);
+    directory.write(out);
     writeIconImage(out, mask, image, depth, static_cast<quint32>(newLength));
-    qint64 offset = entryOffset(count) + newLength;
-    for (std::size_t k = 0; k < others.size(); ++k) {
-        out.append(source.mid(others[k].imageOffset, others[k].bytesInRes));
-        // The offset field of directory slot k + 1.
-        w.patchU32(entryOffset(static_cast<int>(k) + 1) + 12, static_cast<quint32>(offset));
-        offset += others[k].bytesInRes;
-    }
+    for (const DirEntry& other : others)
+        out.append(sourceBytes.mid(other.imageOffset, other.bytesInRes));
     return out;
 }
