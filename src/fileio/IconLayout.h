@@ -62,4 +62,10 @@ inline int tableEntries(int depth) {
     return depth <= 8 ? 1 << depth : 0;
 }
 
+// The program's own decoder knows 1, 4 and 8 bits; every other depth is
+// listed as, and read as, 24 bits.
+inline int decoderDepth(int bitCount) {
+    return bitCount == 1 || bitCount == 4 || bitCount == 8 ? bitCount : 24;
+}
+
 } // namespace IconLayout

@@ -1,6 +1,6 @@
 #include "IcoBuilder.h"
 
-#include "fileio/IconReader.h"
+#include "fileio/IcoFile.h"
 #include "fileio/ModFileIO.h"
 
 #include <QDir>
@@ -26,12 +26,11 @@ const char* name(ReadFault f) {
 // What each reader makes of the bytes: header test, count, listing / single
 // load / multi load of entry 0 as 8 bits, 16 x 16.
 std::string readings(const QByteArray& bytes) {
-    const IconLoadResult single = IconReader::loadSingleIcon(bytes);
-    return std::string(IconReader::isIconFile(bytes) ? "icon " : "- ") +
-           std::to_string(IconReader::iconCount(bytes)) +
-           (IconReader::listIcons(bytes) ? " listed / " : " - / ") + name(single.status) +
-           name(single.fault) + " / " +
-           name(IconReader::loadMultiIcon(bytes, {0, 8, 16, 16}).status);
+    const IcoFile ico(bytes);
+    const IconLoadResult single = ico.image(0);
+    return std::string(ico.isIconFile() ? "icon " : "- ") + std::to_string(ico.count()) +
+           (ico.listing() ? " listed / " : " - / ") + name(single.status) + name(single.fault) +
+           " / " + name(ico.chosenImage({0, 8, 16, 16}).status);
 }
 
 TEST(BadInputTest, EveryReaderGivesATypedFailureForMalformedBytes) {
@@ -69,10 +68,10 @@ TEST(BadInputTest, EveryReaderGivesATypedFailureForMalformedBytes) {
 TEST(BadInputTest, ChoicesOutsideTheDirectoryFailTheMultiLoad) {
     const QByteArray good = twoImages();
     for (const int index : {2, -1})
-        EXPECT_EQ(ModFileIO::loadMessage(IconReader::loadMultiIcon(good, {index, 8, 16, 16}), true),
+        EXPECT_EQ(ModFileIO::loadMessage(IcoFile(good).chosenImage({index, 8, 16, 16}), true),
                   "An unexpected error occurred while loading the icon resource.");
     // A 48 x 48 choice of a 16 x 16 entry runs past the file's end.
-    EXPECT_EQ(IconReader::loadMultiIcon(good, {1, 24, 48, 48}).fault, ReadFault::OutOfBounds);
+    EXPECT_EQ(IcoFile(good).chosenImage({1, 24, 48, 48}).fault, ReadFault::OutOfBounds);
 }
 
 TEST(BadInputTest, FilesThatCannotBeReadAreRefusedWithoutBlocking) {
@@ -92,14 +91,15 @@ TEST(BadInputTest, FilesThatCannotBeReadAreRefusedWithoutBlocking) {
         SCOPED_TRACE(path.toStdString());
         const ReadFault fault =
             path == huge.fileName() ? ReadFault::TooLarge : ReadFault::Unreadable;
-        EXPECT_EQ(ModFileIO::isIconFile(path), fault == ReadFault::TooLarge);
-        EXPECT_EQ(ModFileIO::iconCount(path), fault == ReadFault::TooLarge ? 2 : 0);
-        EXPECT_FALSE(ModFileIO::listIcons(path));
-        const IconLoadResult single = ModFileIO::loadSingleIcon(path);
+        const IcoFile ico = ModFileIO::readIconFile(path);
+        EXPECT_EQ(ico.isIconFile(), fault == ReadFault::TooLarge);
+        EXPECT_EQ(ico.count(), fault == ReadFault::TooLarge ? 2 : 0);
+        EXPECT_FALSE(ico.listing());
+        const IconLoadResult single = ico.image(0);
         EXPECT_EQ(single.fault, fault);
         EXPECT_EQ(ModFileIO::loadMessage(single, false),
                   "An unexpected error occurred while loading the icon.");
-        EXPECT_EQ(ModFileIO::loadMultiIcon(path, {0, 8, 16, 16}).fault, fault);
+        EXPECT_EQ(ico.chosenImage({0, 8, 16, 16}).fault, fault);
     }
 }
 
