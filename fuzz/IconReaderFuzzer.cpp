@@ -3,7 +3,6 @@
 // sanitizer report or broken promise about the planes is a finding.
 #include "fileio/IcoFile.h"
 #include "fileio/IconListing.h"
-#include "fileio/IconWriter.h"
 
 #include <cstdint>
 #include <cstdlib>
@@ -53,7 +52,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         checkLoad(ico.chosenImage({0, depth, 48, 48}));
 
     const Plane plane(16, 16, kWhite);
-    if (const auto rewritten = IconWriter::multiIconBytes(plane, plane, 256, bytes, {0, 8, 16, 16}))
+    if (const auto rewritten = ico.withImageReplaced(plane, plane, 256, {0, 8, 16, 16}))
         check(IcoFile(*rewritten).count() == count);
     return 0;
 }

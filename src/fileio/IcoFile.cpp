@@ -1,7 +1,12 @@
 #include "fileio/IcoFile.h"
 
+#include "fileio/DibWriter.h"
 #include "fileio/IconDecoder.h"
 #include "fileio/IconListing.h"
+#include "fileio/ModPalette.h"
+#include "fileio/PixelEncoder.h"
+
+#include <vector>
 
 using namespace IconLayout;
 
@@ -39,6 +44,44 @@ IconLoadResult decoded(const ByteView& in, qint64 rowsOffset, int size, int dept
     }
     result.status = LoadStatus::Ok;
     return result;
+}
+
+bool writable(const Plane& mask, const Plane& image) {
+    return !image.isEmpty() && mask.width() == image.width() && mask.height() == image.height() &&
+           image.width() <= 255 && image.height() <= 255;
+}
+
+qint32 imageLength(const Plane& image, int depth) {
+    return static_cast<qint32>(kInfoHeaderBytes + 4 * tableEntries(depth) +
+                               (rowBytes(image.width(), depth) + rowBytes(image.width(), 1)) *
+                                   image.height());
+}
+
+// The entry of an image this program writes, placed right behind a
+// one-entry directory; the colour count is 0 at every depth.
+DirEntry newEntry(int width, int height, int planesField, int bitCountField, qint32 length) {
+    return {width, height, 0, 0, planesField, bitCountField, length, kHeaderBytes + kEntryBytes};
+}
+
+// BITMAPINFOHEADER, colour table, colour rows and mask rows of one icon image.
+void writeIconImage(QByteArray& out, const Plane& mask, const Plane& image, int depth,
+                    quint32 imageSizeField) {
+    DibWriter::write(out, image, depth, true, 2 * image.height(), imageSizeField);
+    PixelEncoder::encode1(mask, out);
+}
+
+QByteArray singleImageFile(const Plane& mask, const Plane& image, int colourCount, int type,
+                           int planesField, int bitCountField) {
+    QByteArray out;
+    if (!writable(mask, image))
+        return out;
+    const int depth = ModPalette::bitDepthFor(colourCount);
+    const qint32 length = imageLength(image, depth);
+    const DirEntry entry =
+        newEntry(image.width(), image.height(), planesField, bitCountField, length);
+    IconDirectory{{0, type, 1}, {entry}}.write(out);
+    writeIconImage(out, mask, image, depth, 0);
+    return out;
 }
 
 } // namespace
@@ -132,4 +175,62 @@ IconLoadResult IcoFile::chosenImage(const IconDescription& chosen) const {
     if (!table)
         return failure(ReadFault::OutOfBounds);
     return decoded(in, tableOffset + 4LL * tableEntries(depth), chosen.width, depth, *table);
+}
+
+QByteArray IcoFile::iconBytes(const Plane& mask, const Plane& image, int colourCount) {
+    const int depth = ModPalette::bitDepthFor(colourCount);
+    return singleImageFile(mask, image, colourCount, 1, 1, depth);
+}
+
+QByteArray IcoFile::cursorBytes(const Plane& mask, const Plane& image, int colourCount,
+                                int hotSpotX, int hotSpotY) {
+    // A cursor's entry carries the hot spot where an icon's has planes and
+    // bit count.
+    return singleImageFile(mask, image, colourCount, 2, hotSpotX, hotSpotY);
+}
+
+std::optional<QByteArray> IcoFile::withImageReplaced(const Plane& mask, const Plane& image,
+                                                     int colourCount,
+                                                     const IconDescription& chosen) const {
+    const auto& source = directory_;
+    if (readFault_ != ReadFault::None || !writable(mask, image) || !source ||
+        source->header.count < 1 || chosen.index < 0 || chosen.index >= source->header.count)
+        return std::nullopt;
+    const int count = source->header.count;
+    const int depth = ModPalette::bitDepthFor(colourCount);
+    const qint32 newLength = imageLength(image, depth);
+
+    // Check every other entry and its data before writing anything.
+    if (static_cast<int>(source->entries.size()) < count)
+        return std::nullopt;
+    const ByteView in(bytes_);
+    std::vector<DirEntry> others;
+    for (int i = 0; i < count; ++i) {
+        const DirEntry& entry = source->entries[i];
+        if (!in.contains(entry.imageOffset, entry.bytesInRes))
+            return std::nullopt;
+        if (i != chosen.index)
+            others.push_back(entry);
+    }
+    // The edited image always becomes the first entry; the others follow in
+    // directory order, their data moved up behind it, and the result stays
+    // within what a reader accepts.
+    IconDirectory directory{source->header,
+                            {newEntry(chosen.width, chosen.height, 1, depth, newLength)}};
+    directory.entries.insert(directory.entries.end(), others.begin(), others.end());
+    qint64 offset = directory.size();
+    for (DirEntry& entry : directory.entries) {
+        entry.imageOffset = static_cast<qint32>(offset);
+        offset += entry.bytesInRes;
+        if (offset > kMaxFileBytes)
+            return std::nullopt;
+    }
+
+    QByteArray out;
+    out.reserve(offset);
+    directory.write(out);
+    writeIconImage(out, mask, image, depth, static_cast<quint32>(newLength));
+    for (const DirEntry& other : others)
+        out.append(bytes_.mid(other.imageOffset, other.bytesInRes));
+    return out;
 }

@@ -8,9 +8,9 @@
 #include <vector>
 
 // An .ico or .cur file parsed once from its bytes: its directory as far as
-// the bytes hold it, and its images. Every count, size and offset in the
-// bytes is untrusted: a bad file gives a typed failure, never a read outside
-// the bytes or an allocation larger than they justify.
+// the bytes hold it, and its images; and the writer of such files. Every count, size and offset in
+// the bytes is untrusted: a bad file gives a typed failure, never a read outside the bytes or an
+// allocation larger than they justify.
 class IcoFile : public IconSource {
   public:
     // readFault says why the bytes are not the whole file (nothing could be
@@ -33,6 +33,19 @@ class IcoFile : public IconSource {
     IconLoadResult image(int index) const override;
     // The chosen entry decoded with the depth and size from its listing line.
     IconLoadResult chosenImage(const IconDescription& chosen) const;
+
+    // One-image files of the planes. The colour count (from
+    // ModPalette::countColours) picks the depth: 2 -> 1 bit, 16 -> 4, 256 ->
+    // 8, anything else 24. Empty when the planes cannot be written (empty, of
+    // different sizes, or wider than a directory entry can say).
+    static QByteArray iconBytes(const Plane& mask, const Plane& image, int colourCount);
+    static QByteArray cursorBytes(const Plane& mask, const Plane& image, int colourCount,
+                                  int hotSpotX, int hotSpotY);
+    // This file with the chosen image replaced by the planes and moved to the
+    // front; nullopt when its directory or image data cannot be read.
+    std::optional<QByteArray> withImageReplaced(const Plane& mask, const Plane& image,
+                                                int colourCount,
+                                                const IconDescription& chosen) const;
 
   private:
     QByteArray bytes_;

@@ -12,7 +12,6 @@ namespace IconLayout {
 constexpr qint64 kHeaderBytes = 6;
 constexpr qint64 kEntryBytes = 16;
 constexpr qint64 kInfoHeaderBytes = 40;
-constexpr qint64 kBitmapFileHeaderBytes = 14;
 
 // No icon file this program reads or writes comes near this: a multi-image
 // icon of ten 48 x 48 true-colour images is under 80 KB, and even files with

@@ -1,7 +1,7 @@
 #include "fileio/ModFileIO.h"
 
+#include "fileio/BmpFile.h"
 #include "fileio/IconLayout.h"
-#include "fileio/IconWriter.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -104,16 +104,16 @@ bool ModFileIO::saveFile(const QString& path, const QByteArray& bytes) {
 
 bool ModFileIO::writeIcon(const Plane& mask, const Plane& image, int colourCount,
                           const QString& path) {
-    return saveFile(path, IconWriter::iconBytes(mask, image, colourCount));
+    return saveFile(path, IcoFile::iconBytes(mask, image, colourCount));
 }
 
 bool ModFileIO::writeCursor(const Plane& mask, const Plane& image, int colourCount, int hotSpotX,
                             int hotSpotY, const QString& path) {
-    return saveFile(path, IconWriter::cursorBytes(mask, image, colourCount, hotSpotX, hotSpotY));
+    return saveFile(path, IcoFile::cursorBytes(mask, image, colourCount, hotSpotX, hotSpotY));
 }
 
 bool ModFileIO::writeBitmap(const Plane& picture, int colourCount, const QString& path) {
-    return saveFile(path, IconWriter::bitmapBytes(picture, colourCount));
+    return saveFile(path, BmpFile::bytes(picture, colourCount));
 }
 
 bool ModFileIO::rewriteMultiIcon(const Plane& mask, const Plane& image, int colourCount,
@@ -129,7 +129,7 @@ bool ModFileIO::rewriteMultiIcon(const Plane& mask, const Plane& image, int colo
     const auto source = readFile(sourcePath);
     if (!source)
         return false;
-    const auto bytes = IconWriter::multiIconBytes(mask, image, colourCount, *source, chosen);
+    const auto bytes = IcoFile(*source).withImageReplaced(mask, image, colourCount, chosen);
     return bytes && saveFile(destinationPath, *bytes);
 }
 
