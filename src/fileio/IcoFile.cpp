@@ -104,10 +104,12 @@ int IcoFile::count() const {
     return directory_ && directory_->header.count > 0 ? directory_->header.count : 0;
 }
 
+bool IcoFile::holdsEveryEntry() const {
+    return count() > 0 && static_cast<int>(directory_->entries.size()) == count();
+}
+
 std::optional<std::vector<IconListLine>> IcoFile::listing() const {
-    // The count is trusted only as far as the file holds that many entries.
-    if (readFault_ != ReadFault::None || count() == 0 ||
-        static_cast<int>(directory_->entries.size()) < count())
+    if (readFault_ != ReadFault::None || !holdsEveryEntry())
         return std::nullopt;
     const ByteView in(bytes_);
     std::vector<IconListLine> lines;
@@ -192,21 +194,16 @@ QByteArray IcoFile::cursorBytes(const Plane& mask, const Plane& image, int colou
 std::optional<QByteArray> IcoFile::withImageReplaced(const Plane& mask, const Plane& image,
                                                      int colourCount,
                                                      const IconDescription& chosen) const {
-    const auto& source = directory_;
-    if (readFault_ != ReadFault::None || !writable(mask, image) || !source ||
-        source->header.count < 1 || chosen.index < 0 || chosen.index >= source->header.count)
+    // Every entry and its data are checked before anything is written.
+    if (readFault_ != ReadFault::None || !writable(mask, image) || !holdsEveryEntry() ||
+        chosen.index < 0 || chosen.index >= count())
         return std::nullopt;
-    const int count = source->header.count;
     const int depth = ModPalette::bitDepthFor(colourCount);
     const qint32 newLength = imageLength(image, depth);
-
-    // Check every other entry and its data before writing anything.
-    if (static_cast<int>(source->entries.size()) < count)
-        return std::nullopt;
     const ByteView in(bytes_);
     std::vector<DirEntry> others;
-    for (int i = 0; i < count; ++i) {
-        const DirEntry& entry = source->entries[i];
+    for (int i = 0; i < count(); ++i) {
+        const DirEntry& entry = directory_->entries[i];
         if (!in.contains(entry.imageOffset, entry.bytesInRes))
             return std::nullopt;
         if (i != chosen.index)
@@ -215,7 +212,7 @@ std::optional<QByteArray> IcoFile::withImageReplaced(const Plane& mask, const Pl
     // The edited image always becomes the first entry; the others follow in
     // directory order, their data moved up behind it, and the result stays
     // within what a reader accepts.
-    IconDirectory directory{source->header,
+    IconDirectory directory{directory_->header,
                             {newEntry(chosen.width, chosen.height, 1, depth, newLength)}};
     directory.entries.insert(directory.entries.end(), others.begin(), others.end());
     qint64 offset = directory.size();

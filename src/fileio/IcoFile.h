@@ -8,8 +8,9 @@
 #include <vector>
 
 // An .ico or .cur file parsed once from its bytes: its directory as far as
-// the bytes hold it, and its images; and the writer of such files. Every count, size and offset in
-// the bytes is untrusted: a bad file gives a typed failure, never a read outside the bytes or an
+// the bytes hold it and its images, decoded on demand; also the writer of
+// such files. Every count, size and offset in the bytes is untrusted: a bad
+// file gives a typed failure, never a read outside the bytes or an
 // allocation larger than they justify.
 class IcoFile : public IconSource {
   public:
@@ -48,6 +49,9 @@ class IcoFile : public IconSource {
                                                 const IconDescription& chosen) const;
 
   private:
+    // True when the bytes hold an entry for every image the header counts.
+    bool holdsEveryEntry() const;
+
     QByteArray bytes_;
     ReadFault readFault_;
     std::optional<IconDirectory> directory_;

@@ -5,10 +5,10 @@
 #include <QByteArray>
 #include <QString>
 #include <optional>
-#include <vector>
 
-// The icon reader and the writers on files. Nothing here shows a message: the
-// caller shows the texts below, titled errorTitle().
+// Where icon files meet the disk: each is read once, and written whole or not
+// at all. Nothing here shows a message: the caller shows the texts below,
+// titled errorTitle().
 class ModFileIO {
   public:
     // Larger files are refused unread (see IconLayout::kMaxFileBytes).
