@@ -1,8 +1,8 @@
 // Feeds arbitrary bytes to every step the Open command takes on an .ico, and
 // to the multi-image rewrite, which parses the same directory. Any crash,
 // sanitizer report or broken promise about the planes is a finding.
-#include "fileio/IconReader.h"
-#include "fileio/IconWriter.h"
+#include "fileio/IcoFile.h"
+#include "fileio/IconListing.h"
 
 #include <cstdint>
 #include <cstdlib>
@@ -33,24 +33,26 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const QByteArray bytes =
         QByteArray::fromRawData(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size));
 
-    const bool isIcon = IconReader::isIconFile(bytes);
-    const int count = IconReader::iconCount(bytes);
+    // Parsed once, as Open parses a file.
+    const IcoFile ico(bytes);
+    const bool isIcon = ico.isIconFile();
+    const int count = ico.count();
     check(count >= 0 && (!isIcon || count > 0));
-    checkLoad(IconReader::loadSingleIcon(bytes));
+    checkLoad(ico.image(0));
 
-    if (const auto lines = IconReader::listIcons(bytes)) {
+    if (const auto lines = ico.listing()) {
         check(static_cast<int>(lines->size()) == count);
         for (int i = 0; i < static_cast<int>(lines->size()); ++i) {
-            const IconDescription chosen = IconReader::describeListLine(i, (*lines)[i]);
-            checkLoad(IconReader::loadMultiIcon(bytes, chosen));
+            const IconDescription chosen = IconListing::describe(i, (*lines)[i]);
+            checkLoad(ico.chosenImage(chosen));
         }
     }
     // Depths and sizes the listing would not have offered for these bytes.
     for (const int depth : {1, 4, 8, 24})
-        checkLoad(IconReader::loadMultiIcon(bytes, {0, depth, 48, 48}));
+        checkLoad(ico.chosenImage({0, depth, 48, 48}));
 
     const Plane plane(16, 16, kWhite);
-    if (const auto rewritten = IconWriter::multiIconBytes(plane, plane, 256, bytes, {0, 8, 16, 16}))
-        check(IconReader::iconCount(*rewritten) == count);
+    if (const auto rewritten = ico.withImageReplaced(plane, plane, 256, {0, 8, 16, 16}))
+        check(IcoFile(*rewritten).count() == count);
     return 0;
 }

@@ -18,10 +18,6 @@ class ByteWriter {
         u16(v >> 16);
     }
     void i32(qint32 v) { u32(static_cast<quint32>(v)); }
-    void patchU32(qint64 offset, quint32 v) {
-        for (int i = 0; i < 4; ++i)
-            out_[offset + i] = static_cast<char>((v >> (8 * i)) & 0xFF);
-    }
 
   private:
     QByteArray& out_;

@@ -4,7 +4,7 @@
 #include "document/IconDocument.h"
 #include "editing/EditContext.h"
 #include "editing/ModUndoRedo.h"
-#include "fileio/IconReader.h"
+#include "fileio/IconListing.h"
 #include "fileio/ModFileIO.h"
 #include "fileio/ModPalette.h"
 #include "platform/Raster.h"
@@ -57,11 +57,12 @@ bool FileCommands::runOpen(const std::optional<FileChoice>& handedIn) {
 
 bool FileCommands::loadIcons(const FileChoice& file) {
     IconDocument& doc = context_.doc();
-    if (!ModFileIO::isIconFile(file.path)) {
+    const IcoFile icons = ModFileIO::readIconFile(file.path);
+    if (!icons.isIconFile()) {
         showError(file.title + QStringLiteral(" is not a valid icon file."));
         return false;
     }
-    const int count = ModFileIO::iconCount(file.path);
+    const int count = icons.count();
     if (count == 0) {
         showError(QStringLiteral("Unable to read data from ") + file.title);
         return false;
@@ -69,7 +70,7 @@ bool FileCommands::loadIcons(const FileChoice& file) {
     IconLoadResult loaded;
     IconDescription description;
     if (count > 1) {
-        const auto lines = ModFileIO::listIcons(file.path);
+        const auto lines = icons.listing();
         if (!lines) {
             showError(QStringLiteral("An error occurred while loading ") + file.title);
             return false;
@@ -79,16 +80,16 @@ bool FileCommands::loadIcons(const FileChoice& file) {
             texts << line.text;
         const int chosen = dialogs_.chooseIconLine(texts);
         if (chosen >= 0 && chosen < static_cast<int>(lines->size()))
-            description = IconReader::describeListLine(chosen, (*lines)[chosen]);
+            description = IconListing::describe(chosen, (*lines)[chosen]);
         if (description.width == 0) {
             // Intended: a cancelled choice still marks the document as having
             // a file, so the caller takes the open as handled.
             doc.hasFile = true;
             return true;
         }
-        loaded = ModFileIO::loadMultiIcon(file.path, description);
+        loaded = icons.chosenImage(description);
     } else {
-        loaded = ModFileIO::loadSingleIcon(file.path);
+        loaded = icons.image(0);
     }
     if (!loaded.ok()) {
         userDialogs().showMessage(ModFileIO::errorTitle(),

@@ -12,7 +12,6 @@ namespace IconLayout {
 constexpr qint64 kHeaderBytes = 6;
 constexpr qint64 kEntryBytes = 16;
 constexpr qint64 kInfoHeaderBytes = 40;
-constexpr qint64 kBitmapFileHeaderBytes = 14;
 
 // No icon file this program reads or writes comes near this: a multi-image
 // icon of ten 48 x 48 true-colour images is under 80 KB, and even files with
@@ -60,6 +59,12 @@ inline qint64 rowBytes(qint64 width, int depth) {
 // Colour-table entries that precede the rows: 2, 16, 256, none above 8 bits.
 inline int tableEntries(int depth) {
     return depth <= 8 ? 1 << depth : 0;
+}
+
+// The program's own decoder knows 1, 4 and 8 bits; every other depth is
+// listed as, and read as, 24 bits.
+inline int decoderDepth(int bitCount) {
+    return bitCount == 1 || bitCount == 4 || bitCount == 8 ? bitCount : 24;
 }
 
 } // namespace IconLayout

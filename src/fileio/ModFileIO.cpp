@@ -1,8 +1,7 @@
 #include "fileio/ModFileIO.h"
 
+#include "fileio/BmpFile.h"
 #include "fileio/IconLayout.h"
-#include "fileio/IconReader.h"
-#include "fileio/IconWriter.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -14,23 +13,33 @@
 
 namespace {
 
-// At most maxBytes of a regular file. Devices, pipes and directories are
-// refused before they are opened, so a read can neither block nor run on.
-std::optional<QByteArray> readAtMost(const QString& path, qint64 maxBytes, bool wholeFile,
-                                     ReadFault* fault) {
+int reads = 0;
+
+// Enough for the directory header and the first entry.
+constexpr qint64 kHeadBytes = IconLayout::kHeaderBytes + IconLayout::kEntryBytes;
+
+// The whole of a regular file. Devices, pipes and directories are refused
+// before they are opened, so a read can neither block nor run on. A file
+// larger than any icon file is refused too, though its head is read into
+// *head when asked for.
+std::optional<QByteArray> readWhole(const QString& path, ReadFault* fault, QByteArray* head) {
     const auto fail = [fault](ReadFault f) -> std::optional<QByteArray> {
         if (fault)
             *fault = f;
         return std::nullopt;
     };
+    ++reads;
     if (path.isEmpty() || !QFileInfo(path).isFile())
         return fail(ReadFault::Unreadable);
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return fail(ReadFault::Unreadable);
-    if (wholeFile && file.size() > maxBytes)
+    if (file.size() > IconLayout::kMaxFileBytes) {
+        if (head)
+            *head = file.read(kHeadBytes);
         return fail(ReadFault::TooLarge);
-    QByteArray bytes = file.read(maxBytes);
+    }
+    QByteArray bytes = file.read(IconLayout::kMaxFileBytes);
     if (file.error() != QFileDevice::NoError)
         return fail(ReadFault::Unreadable);
     if (fault)
@@ -49,15 +58,6 @@ bool syncToDisk(QFileDevice& file) {
 #endif
 }
 
-// Enough for the directory header and the first entry.
-constexpr qint64 kHeadBytes = IconLayout::kHeaderBytes + IconLayout::kEntryBytes;
-
-IconLoadResult unreadable(ReadFault fault) {
-    IconLoadResult result;
-    result.fault = fault;
-    return result;
-}
-
 } // namespace
 
 qint64 ModFileIO::maxFileBytes() {
@@ -65,34 +65,18 @@ qint64 ModFileIO::maxFileBytes() {
 }
 
 std::optional<QByteArray> ModFileIO::readFile(const QString& path, ReadFault* fault) {
-    return readAtMost(path, IconLayout::kMaxFileBytes, true, fault);
+    return readWhole(path, fault, nullptr);
 }
 
-bool ModFileIO::isIconFile(const QString& path) {
-    const auto head = readAtMost(path, kHeadBytes, false, nullptr);
-    return head && IconReader::isIconFile(*head);
-}
-
-int ModFileIO::iconCount(const QString& path) {
-    const auto head = readAtMost(path, kHeadBytes, false, nullptr);
-    return head ? IconReader::iconCount(*head) : 0;
-}
-
-std::optional<std::vector<IconListLine>> ModFileIO::listIcons(const QString& path) {
-    const auto bytes = readFile(path);
-    return bytes ? IconReader::listIcons(*bytes) : std::nullopt;
-}
-
-IconLoadResult ModFileIO::loadSingleIcon(const QString& path) {
+IcoFile ModFileIO::readIconFile(const QString& path) {
     ReadFault fault = ReadFault::None;
-    const auto bytes = readFile(path, &fault);
-    return bytes ? IconReader::loadSingleIcon(*bytes) : unreadable(fault);
+    QByteArray head;
+    auto bytes = readWhole(path, &fault, &head);
+    return bytes ? IcoFile(std::move(*bytes)) : IcoFile(head, fault);
 }
 
-IconLoadResult ModFileIO::loadMultiIcon(const QString& path, const IconDescription& chosen) {
-    ReadFault fault = ReadFault::None;
-    const auto bytes = readFile(path, &fault);
-    return bytes ? IconReader::loadMultiIcon(*bytes, chosen) : unreadable(fault);
+int ModFileIO::readCount() {
+    return reads;
 }
 
 bool ModFileIO::saveFile(const QString& path, const QByteArray& bytes) {
@@ -120,16 +104,16 @@ bool ModFileIO::saveFile(const QString& path, const QByteArray& bytes) {
 
 bool ModFileIO::writeIcon(const Plane& mask, const Plane& image, int colourCount,
                           const QString& path) {
-    return saveFile(path, IconWriter::iconBytes(mask, image, colourCount));
+    return saveFile(path, IcoFile::iconBytes(mask, image, colourCount));
 }
 
 bool ModFileIO::writeCursor(const Plane& mask, const Plane& image, int colourCount, int hotSpotX,
                             int hotSpotY, const QString& path) {
-    return saveFile(path, IconWriter::cursorBytes(mask, image, colourCount, hotSpotX, hotSpotY));
+    return saveFile(path, IcoFile::cursorBytes(mask, image, colourCount, hotSpotX, hotSpotY));
 }
 
 bool ModFileIO::writeBitmap(const Plane& picture, int colourCount, const QString& path) {
-    return saveFile(path, IconWriter::bitmapBytes(picture, colourCount));
+    return saveFile(path, BmpFile::bytes(picture, colourCount));
 }
 
 bool ModFileIO::rewriteMultiIcon(const Plane& mask, const Plane& image, int colourCount,
@@ -145,7 +129,7 @@ bool ModFileIO::rewriteMultiIcon(const Plane& mask, const Plane& image, int colo
     const auto source = readFile(sourcePath);
     if (!source)
         return false;
-    const auto bytes = IconWriter::multiIconBytes(mask, image, colourCount, *source, chosen);
+    const auto bytes = IcoFile(*source).withImageReplaced(mask, image, colourCount, chosen);
     return bytes && saveFile(destinationPath, *bytes);
 }
 

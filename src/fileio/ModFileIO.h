@@ -1,24 +1,24 @@
 #pragma once
 
-#include "fileio/IconFileTypes.h"
+#include "fileio/IcoFile.h"
 
 #include <QByteArray>
 #include <QString>
 #include <optional>
-#include <vector>
 
-// The icon reader and the writers on files. Nothing here shows a message: the
-// caller shows the texts below, titled errorTitle().
+// Where icon files meet the disk: each is read once, and written whole or not
+// at all. Nothing here shows a message: the caller shows the texts below,
+// titled errorTitle().
 class ModFileIO {
   public:
     // Larger files are refused unread (see IconLayout::kMaxFileBytes).
     static qint64 maxFileBytes();
 
-    static bool isIconFile(const QString& path);
-    static int iconCount(const QString& path);
-    static std::optional<std::vector<IconListLine>> listIcons(const QString& path);
-    static IconLoadResult loadSingleIcon(const QString& path);
-    static IconLoadResult loadMultiIcon(const QString& path, const IconDescription& chosen);
+    // The icon file read once, for Open to test, count, list and load. A
+    // file that cannot be read gives an empty container holding the fault;
+    // one too large gives its head, so the header test and the count still
+    // pass a valid start and the load names the failure.
+    static IcoFile readIconFile(const QString& path);
 
     // Each write builds the whole file in memory and replaces the destination
     // only when every byte is on disk, so a failed write keeps the old file.
@@ -35,6 +35,9 @@ class ModFileIO {
     // The file's bytes, or nullopt when it cannot be read or is too large.
     static std::optional<QByteArray> readFile(const QString& path, ReadFault* fault = nullptr);
     static bool saveFile(const QString& path, const QByteArray& bytes);
+    // How many reads of a file were asked for so far in this process, so
+    // that tests can count the reads a command takes.
+    static int readCount();
 
     static QString errorTitle();
     // "... incompatible with Sollent.\r\n\r\n32 x 16 pixels."

@@ -1,6 +1,6 @@
 #include "IcoBuilder.h"
 
-#include "fileio/IconReader.h"
+#include "fileio/IcoFile.h"
 #include "fileio/ModFileIO.h"
 
 #include <QDir>
@@ -15,23 +15,21 @@ QByteArray twoImages() {
     return icoFile({StoredImage(16, 8, std::vector<Colour>(256, kWhite)), StoredImage(16, 24)});
 }
 
-const char* name(LoadStatus s) {
-    return s == LoadStatus::Ok ? "Ok" : s == LoadStatus::BadDimensions ? "BadSize" : "Failed";
-}
-const char* name(ReadFault f) {
-    const char* names[] = {"", " Unreadable", " TooLarge", " OutOfBounds", " Unsupported"};
-    return names[static_cast<int>(f)];
+// "Ok", "Failed" and the fault, or "BadSize" and the size the message names.
+std::string outcome(const IconLoadResult& r) {
+    const char* faults[] = {"", " Unreadable", " TooLarge", " OutOfBounds", " Unsupported"};
+    if (r.status == LoadStatus::BadDimensions)
+        return "BadSize " + std::to_string(r.width) + " x " + std::to_string(r.height);
+    return r.ok() ? "Ok" : std::string("Failed") + faults[static_cast<int>(r.fault)];
 }
 
 // What each reader makes of the bytes: header test, count, listing / single
 // load / multi load of entry 0 as 8 bits, 16 x 16.
 std::string readings(const QByteArray& bytes) {
-    const IconLoadResult single = IconReader::loadSingleIcon(bytes);
-    return std::string(IconReader::isIconFile(bytes) ? "icon " : "- ") +
-           std::to_string(IconReader::iconCount(bytes)) +
-           (IconReader::listIcons(bytes) ? " listed / " : " - / ") + name(single.status) +
-           name(single.fault) + " / " +
-           name(IconReader::loadMultiIcon(bytes, {0, 8, 16, 16}).status);
+    const IcoFile ico(bytes);
+    return std::string(ico.isIconFile() ? "icon " : "- ") + std::to_string(ico.count()) +
+           (ico.listing() ? " listed / " : " - / ") + outcome(ico.image(0)) + " / " +
+           (ico.chosenImage({0, 8, 16, 16}).ok() ? "Ok" : "Failed");
 }
 
 TEST(BadInputTest, EveryReaderGivesATypedFailureForMalformedBytes) {
@@ -54,10 +52,23 @@ TEST(BadInputTest, EveryReaderGivesATypedFailureForMalformedBytes) {
         {"offset negative", at(18, -16, 4), "- 2 - / Failed OutOfBounds / Failed"},
         {"offset at last byte", at(18, good.size() - 1, 4),
          "icon 2 - / Failed OutOfBounds / Failed"},
-        {"entry width 0", at(6, 0, 1), "- 2 listed / Ok / Ok"},
+        {"offset 0", at(18, 0, 4), "- 2 listed / BadSize 269484034 x 32768 / Ok"},
+        {"reserved 1", at(0, 1, 2), "- 2 listed / Ok / Ok"},
         {"cursor", at(2, 2, 2), "- 2 listed / Ok / Ok"},
-        {"image width 0", at(kInfo + 4, 0, 4), "icon 2 listed / BadSize / Ok"},
-        {"image height huge", at(kInfo + 8, 0x7FFFFFFE, 4), "icon 2 listed / BadSize / Ok"},
+        {"entry width 0", at(6, 0, 1), "- 2 listed / Ok / Ok"},
+        {"entry width 24", at(6, 24, 1), "icon 2 listed / Ok / Ok"},
+        {"entry height 0", at(7, 0, 1), "- 2 listed / Ok / Ok"},
+        {"entry reserved 1", at(9, 1, 1), "- 2 listed / Ok / Ok"},
+        {"bytes in resource 0", at(14, 0, 4), "- 2 listed / Ok / Ok"},
+        {"bytes in resource negative", at(14, 0x80000000, 4), "- 2 listed / Ok / Ok"},
+        {"image width 0", at(kInfo + 4, 0, 4), "icon 2 listed / BadSize 0 x 16 / Ok"},
+        {"image 24 x 24", QByteArray(good).replace(kInfo + 4, 8, le(24, 4) + le(48, 4)),
+         "icon 2 listed / BadSize 24 x 24 / Ok"},
+        {"image half as high", at(kInfo + 8, 16, 4), "icon 2 listed / BadSize 16 x 8 / Ok"},
+        {"image height -33", at(kInfo + 8, -33, 4), "icon 2 listed / BadSize 16 x -16 / Ok"},
+        {"image height 33", at(kInfo + 8, 33, 4), "icon 2 listed / Ok / Ok"},
+        {"image height huge", at(kInfo + 8, 0x7FFFFFFE, 4),
+         "icon 2 listed / BadSize 16 x 1073741823 / Ok"},
         {"header size huge", at(kInfo, 0x474E5089, 4), "icon 2 listed / Failed Unsupported / Ok"},
         {"compressed", at(kInfo + 16, 1, 4), "icon 2 listed / Failed Unsupported / Ok"},
         {"16 bits per pixel", at(kInfo + 14, 16, 2), "icon 2 listed / Failed Unsupported / Ok"},
@@ -66,13 +77,22 @@ TEST(BadInputTest, EveryReaderGivesATypedFailureForMalformedBytes) {
         EXPECT_EQ(readings(bytes), expected) << what;
 }
 
-TEST(BadInputTest, ChoicesOutsideTheDirectoryFailTheMultiLoad) {
-    const QByteArray good = twoImages();
-    for (const int index : {2, -1})
-        EXPECT_EQ(ModFileIO::loadMessage(IconReader::loadMultiIcon(good, {index, 8, 16, 16}), true),
-                  "An unexpected error occurred while loading the icon resource.");
-    // A 48 x 48 choice of a 16 x 16 entry runs past the file's end.
-    EXPECT_EQ(IconReader::loadMultiIcon(good, {1, 24, 48, 48}).fault, ReadFault::OutOfBounds);
+TEST(BadInputTest, AChoiceTheFileCannotHoldFailsTheMultiLoadWithItsMessage) {
+    const IcoFile two(twoImages());
+    const QString failed = "An unexpected error occurred while loading the icon resource.";
+    // The chosen size is checked first, on the choice alone.
+    const std::tuple<IconDescription, ReadFault, QString> cases[] = {
+        {{2, 8, 16, 16}, ReadFault::OutOfBounds, failed},
+        {{-1, 8, 16, 16}, ReadFault::OutOfBounds, failed},
+        {{1, 24, 48, 48}, ReadFault::OutOfBounds, failed}, // runs past the file's end
+        {{0, 8, 24, 24}, ReadFault::None, ModFileIO::dimensionMessage(24, 24)},
+        {{1, 24, 32, 16}, ReadFault::None, ModFileIO::dimensionMessage(32, 16)}};
+    for (const auto& [chosen, fault, message] : cases) {
+        const IconLoadResult r = two.chosenImage(chosen);
+        EXPECT_EQ(std::pair(r.fault, ModFileIO::loadMessage(r, true)), std::pair(fault, message))
+            << chosen.index << " " << chosen.width << " x " << chosen.height;
+    }
+    EXPECT_EQ(two.image(2).fault, ReadFault::OutOfBounds);
 }
 
 TEST(BadInputTest, FilesThatCannotBeReadAreRefusedWithoutBlocking) {
@@ -92,14 +112,15 @@ TEST(BadInputTest, FilesThatCannotBeReadAreRefusedWithoutBlocking) {
         SCOPED_TRACE(path.toStdString());
         const ReadFault fault =
             path == huge.fileName() ? ReadFault::TooLarge : ReadFault::Unreadable;
-        EXPECT_EQ(ModFileIO::isIconFile(path), fault == ReadFault::TooLarge);
-        EXPECT_EQ(ModFileIO::iconCount(path), fault == ReadFault::TooLarge ? 2 : 0);
-        EXPECT_FALSE(ModFileIO::listIcons(path));
-        const IconLoadResult single = ModFileIO::loadSingleIcon(path);
+        const IcoFile ico = ModFileIO::readIconFile(path);
+        EXPECT_EQ(ico.isIconFile(), fault == ReadFault::TooLarge);
+        EXPECT_EQ(ico.count(), fault == ReadFault::TooLarge ? 2 : 0);
+        EXPECT_FALSE(ico.listing());
+        const IconLoadResult single = ico.image(0);
         EXPECT_EQ(single.fault, fault);
         EXPECT_EQ(ModFileIO::loadMessage(single, false),
                   "An unexpected error occurred while loading the icon.");
-        EXPECT_EQ(ModFileIO::loadMultiIcon(path, {0, 8, 16, 16}).fault, fault);
+        EXPECT_EQ(ico.chosenImage({0, 8, 16, 16}).fault, fault);
     }
 }
 

@@ -1,6 +1,7 @@
 #include "FileCommandsFixture.h"
 
-#include "fileio/IconWriter.h"
+#include "fileio/BmpFile.h"
+#include "fileio/IcoFile.h"
 
 #include <QDir>
 
@@ -36,8 +37,7 @@ TEST_F(FileCommandsSaveTest, SaveAsMakesTheNewFileTheDocumentsAndSaveWritesItInP
     EXPECT_EQ(dialogs.fileModes.size(), 3u) << "Save of a document with a file asks nothing";
     EXPECT_FALSE(editor->doc().modified);
     EXPECT_EQ(readFile(original), icon.file());
-    EXPECT_EQ(readFile(copy),
-              IconWriter::iconBytes(editor->doc().PicMask, editor->doc().PicImage, 256))
+    EXPECT_EQ(readFile(copy), IcoFile::iconBytes(editor->doc().PicMask, editor->doc().PicImage, 256))
         << "forty colours are written at 8 bits";
 }
 
@@ -65,12 +65,12 @@ TEST_F(FileCommandsSaveTest, BitmapAndCursorCopiesLeaveTheDocumentsFileAlone) {
     overWhite.setPixel(31, 0, kWhite);
     overWhite.setPixel(5, 0, kWhite ^ rgb(200, 10, 90));
     overWhite.setPixel(6, 0, kBlack);
-    EXPECT_EQ(readFile(path("many.bmp")), IconWriter::bitmapBytes(overWhite, -1));
+    EXPECT_EQ(readFile(path("many.bmp")), BmpFile::bytes(overWhite, -1));
     EXPECT_EQ(readFile(path("many.cur")),
-              IconWriter::cursorBytes(editor->doc().PicMask, editor->doc().PicImage, -1, 5, 7));
+              IcoFile::cursorBytes(editor->doc().PicMask, editor->doc().PicImage, -1, 5, 7));
     EXPECT_TRUE(editor->files().save());
     EXPECT_EQ(readFile(original),
-              IconWriter::iconBytes(editor->doc().PicMask, editor->doc().PicImage, -1));
+              IcoFile::iconBytes(editor->doc().PicMask, editor->doc().PicImage, -1));
 }
 
 TEST_F(FileCommandsSaveTest, TheHotSpotIsAskedFirstAndEitherCancelStops) {
@@ -122,9 +122,8 @@ TEST_F(FileCommandsSaveTest, AnImageOfAMultiImageFileSavesOnlyToAnotherFile) {
     chooseNext(copy);
     editor->files().saveAs();
     EXPECT_EQ(documentState(), stateOf(copy));
-    EXPECT_EQ(readFile(copy),
-              IconWriter::multiIconBytes(editor->doc().PicMask, editor->doc().PicImage, 256, bytes,
-                                         chosen));
+    EXPECT_EQ(readFile(copy), IcoFile(bytes).withImageReplaced(editor->doc().PicMask,
+                                                               editor->doc().PicImage, 256, chosen));
 }
 
 TEST_F(FileCommandsSaveTest, AFloatingSelectionIsCommittedBeforeABitmapIsWritten) {

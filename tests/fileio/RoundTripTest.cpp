@@ -58,7 +58,7 @@ TEST(RoundTripTest, IconsOfEveryDepthAndSizeReadBackHereInIcotoolAndInPillow) {
             const Plane colours = depth < 8 ? Plane(size, size, kBlack) : p.image;
             const QString path = dir.filePath(QStringLiteral("%1-%2.ico").arg(size).arg(depth));
             ASSERT_TRUE(ModFileIO::writeIcon(p.mask, p.image, count, path));
-            const IconLoadResult back = ModFileIO::loadSingleIcon(path);
+            const IconLoadResult back = ModFileIO::readIconFile(path).image(0);
             EXPECT_EQ(back.mask, p.mask);
             EXPECT_EQ(back.image, colours);
             EXPECT_EQ(
@@ -107,10 +107,10 @@ TEST(RoundTripTest, FailedWritesLeaveTheFileAndSaveAsOntoTheSourceReadsItFirst) 
     EXPECT_FALSE(ModFileIO::writeBitmap(Plane(), -1, path));
     EXPECT_FALSE(ModFileIO::rewriteMultiIcon(p.mask, p.image, 2, {1, 8, 32, 32}, path, path));
     EXPECT_FALSE(ModFileIO::writeIcon(p.mask, p.image, 256, dir.path()));
-    EXPECT_EQ(ModFileIO::loadSingleIcon(path).image, p.image);
+    EXPECT_EQ(ModFileIO::readIconFile(path).image(0).image, p.image);
     ASSERT_TRUE(
         ModFileIO::rewriteMultiIcon(other.mask, other.image, 256, {0, 8, 32, 32}, path, path));
-    EXPECT_EQ(ModFileIO::loadMultiIcon(path, {0, 8, 32, 32}).image, other.image);
+    EXPECT_EQ(ModFileIO::readIconFile(path).chosenImage({0, 8, 32, 32}).image, other.image);
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "IcoBuilder.h"
 
-#include "fileio/IconWriter.h"
+#include "fileio/BmpFile.h"
+#include "fileio/IcoFile.h"
 #include "fileio/PixelEncoder.h"
 
 #include <gtest/gtest.h>
@@ -9,7 +10,7 @@ namespace {
 
 constexpr int kTrue = -1;
 
-TEST(IconWriterTest, IconsAndBitmapsHaveTheLengthsAndHeadersOfTheirDepthAndSize) {
+TEST(WriterTest, IconsAndBitmapsHaveTheLengthsAndHeadersOfTheirDepthAndSize) {
     // Size, colour count, depth, icon and bitmap file lengths, pixel offset.
     const std::tuple<int, int, int, int, int, int> layouts[] = {
         {16, 2, 1, 198, 126, 62},       {16, 16, 4, 318, 246, 118},
@@ -21,7 +22,7 @@ TEST(IconWriterTest, IconsAndBitmapsHaveTheLengthsAndHeadersOfTheirDepthAndSize)
     for (const auto& [size, colourCount, depth, iconSize, bitmapSize, pixelOffset] : layouts) {
         SCOPED_TRACE(testing::Message() << size << " at " << depth << " bits");
         const Plane image(size, size, rgb(10, 20, 30));
-        const QByteArray icon = IconWriter::iconBytes(Plane(size, size), image, colourCount);
+        const QByteArray icon = IcoFile::iconBytes(Plane(size, size), image, colourCount);
         EXPECT_EQ(icon.size(), iconSize);
         IcoBuilder header;
         header.header(1, 1).entry(size, depth, iconSize - 22, 22);
@@ -29,7 +30,7 @@ TEST(IconWriterTest, IconsAndBitmapsHaveTheLengthsAndHeadersOfTheirDepthAndSize)
         if (depth < 8) { // the 2- and 16-entry tables are written all black
             EXPECT_EQ(icon.mid(62, 4 << depth), QByteArray(4 << depth, 0));
         }
-        const QByteArray bitmap = IconWriter::bitmapBytes(image, colourCount);
+        const QByteArray bitmap = BmpFile::bytes(image, colourCount);
         EXPECT_EQ(bitmap.size(), bitmapSize);
         IcoBuilder file;
         file.u8('B').u8('M').u32(bitmapSize).u32(0).u32(pixelOffset);
@@ -37,7 +38,7 @@ TEST(IconWriterTest, IconsAndBitmapsHaveTheLengthsAndHeadersOfTheirDepthAndSize)
     }
 }
 
-TEST(IconWriterTest, MonochromeRowsAreBottomUpWithTheirPadding) {
+TEST(WriterTest, MonochromeRowsAreBottomUpWithTheirPadding) {
     for (const int size : {16, 32, 48}) {
         SCOPED_TRACE(size);
         const int rowBytes = size == 48 ? 8 : 4, bits = rowBytes * size;
@@ -49,24 +50,24 @@ TEST(IconWriterTest, MonochromeRowsAreBottomUpWithTheirPadding) {
         QByteArray colour(bits, 0), masks(bits, 0);
         colour.replace(0, 2, "\x80\x40");
         masks[bits - rowBytes + size / 8 - 1] = 1;
-        EXPECT_EQ(IconWriter::iconBytes(mask, image, 2).mid(70), colour + masks);
+        EXPECT_EQ(IcoFile::iconBytes(mask, image, 2).mid(70), colour + masks);
     }
 }
 
-TEST(IconWriterTest, EightBitIconWritesItsPaletteAndIndices) {
+TEST(WriterTest, EightBitIconWritesItsPaletteAndIndices) {
     Plane image(16, 16, kBlack);
     image.setPixel(0, 15, rgb(1, 2, 3)); // the first stored pixel
     image.setPixel(1, 15, kWhite);
     image.setPixel(2, 15, rgb(4, 5, 6));
     image.setPixel(3, 0, rgb(4, 5, 6)); // seen first in scan order
-    const QByteArray file = IconWriter::iconBytes(Plane(16, 16), image, 256);
+    const QByteArray file = IcoFile::iconBytes(Plane(16, 16), image, 256);
     EXPECT_EQ(file.mid(62, 12), QByteArray("\0\0\0\0\6\5\4\0\3\2\1\0", 12));
     EXPECT_EQ(file.mid(62 + 4 * 255, 4), QByteArray("\xFF\xFF\xFF\0", 4));
     EXPECT_EQ(file.mid(1086, 4), QByteArray("\2\xFF\1\0", 4));
     EXPECT_EQ(file[1086 + 15 * 16 + 3], 1);
 }
 
-TEST(IconWriterTest, ColoursMissingFromTheTableKeepThePreviousIndex) {
+TEST(WriterTest, ColoursMissingFromTheTableKeepThePreviousIndex) {
     const Colour a = rgb(1, 1, 1), b = rgb(2, 2, 2), unknown = rgb(9, 9, 9);
     const auto row = [](std::vector<Colour> pixels) {
         Plane plane(6, 1);
@@ -93,15 +94,15 @@ TEST(IconWriterTest, ColoursMissingFromTheTableKeepThePreviousIndex) {
     EXPECT_EQ(black, QByteArray(4, 0));
 }
 
-TEST(IconWriterTest, CursorIsTheIconWithTypeTwoAndTheHotSpotInItsEntry) {
+TEST(WriterTest, CursorIsTheIconWithTypeTwoAndTheHotSpotInItsEntry) {
     const Plane image(32, 32, rgb(7, 7, 7));
-    QByteArray icon = IconWriter::iconBytes(Plane(32, 32), image, 256);
-    EXPECT_EQ(IconWriter::cursorBytes(Plane(32, 32), image, 256, 5, 7),
+    QByteArray icon = IcoFile::iconBytes(Plane(32, 32), image, 256);
+    EXPECT_EQ(IcoFile::cursorBytes(Plane(32, 32), image, 256, 5, 7),
               icon.replace(2, 2, le(2, 2)).replace(10, 4, le(5, 2) + le(7, 2)));
-    EXPECT_TRUE(IconWriter::cursorBytes(Plane(300, 300), Plane(300, 300), 2, 0, 0).isEmpty());
+    EXPECT_TRUE(IcoFile::cursorBytes(Plane(300, 300), Plane(300, 300), 2, 0, 0).isEmpty());
 }
 
-TEST(IconWriterTest, EditedImageOfThreeComesFirstAndTheOthersFollowWithNewOffsets) {
+TEST(WriterTest, EditedImageOfThreeComesFirstAndTheOthersFollowWithNewOffsets) {
     StoredImage first(16, 4, std::vector<Colour>(16, rgb(1, 1, 1)));
     first.colourRows.fill('\x12');
     StoredImage third(48, 24);
@@ -111,7 +112,7 @@ TEST(IconWriterTest, EditedImageOfThreeComesFirstAndTheOthersFollowWithNewOffset
     Plane image(32, 32, rgb(200, 100, 50)), mask(32, 32, kBlack);
     mask.setPixel(0, 0, kWhite);
 
-    const auto out = IconWriter::multiIconBytes(mask, image, kTrue, source, {1, 8, 32, 32});
+    const auto out = IcoFile(source).withImageReplaced(mask, image, kTrue, {1, 8, 32, 32});
     ASSERT_TRUE(out);
     const qint64 start = 6 + 3 * 16, length = 3240, firstLength = first.data().size();
     // The header, the new entry, then entries 0 and 2 with only their offsets
@@ -119,11 +120,11 @@ TEST(IconWriterTest, EditedImageOfThreeComesFirstAndTheOthersFollowWithNewOffset
     QByteArray expected = source.left(6) + IcoBuilder().entry(32, 24, length, start).bytes;
     expected += source.mid(6, 12) + le(start + length, 4) + source.mid(38, 12) +
                 le(start + length + firstLength, 4);
-    expected += IconWriter::iconBytes(mask, image, kTrue).mid(22).replace(20, 4, le(length, 4));
+    expected += IcoFile::iconBytes(mask, image, kTrue).mid(22).replace(20, 4, le(length, 4));
     EXPECT_EQ(*out, expected + first.data() + third.data());
 }
 
-TEST(IconWriterTest, MultiRewriteOfAnUnreadableSourceOrChoiceGivesNoFile) {
+TEST(WriterTest, MultiRewriteOfAnUnreadableSourceOrChoiceGivesNoFile) {
     const QByteArray source =
         icoFile({StoredImage(16, 24), StoredImage(32, 24), StoredImage(16, 24)});
     const std::tuple<const char*, QByteArray, int> cases[] = {
@@ -132,7 +133,7 @@ TEST(IconWriterTest, MultiRewriteOfAnUnreadableSourceOrChoiceGivesNoFile) {
         {"truncated directory", source.left(40), 0}};
     for (const auto& [what, bytes, index] : cases)
         EXPECT_FALSE(
-            IconWriter::multiIconBytes(Plane(32, 32), Plane(32, 32), 2, bytes, {index, 8, 32, 32}))
+            IcoFile(bytes).withImageReplaced(Plane(32, 32), Plane(32, 32), 2, {index, 8, 32, 32}))
             << what;
 }
 
