@@ -49,7 +49,6 @@ void Canvas::present(int zoom) {
 }
 
 void Canvas::compose(const IconDocument& doc) {
-    const int n = doc.size;
     drawBackground(doc.zoom);
     stretchMasked(PicMainCopy, 0, 0, kCanvasSize, kCanvasSize, doc.PicMask, doc.PicImage);
     present(doc.zoom);
@@ -57,7 +56,6 @@ void Canvas::compose(const IconDocument& doc) {
 }
 
 void Canvas::composePreview(const IconDocument& doc) {
-    const int n = doc.size;
     PicIcon.fill(kButtonFace);
     drawMasked(PicIcon, 0, 0, doc.PicMask, doc.PicImage);
 }
@@ -68,14 +66,18 @@ void Canvas::refreshFromPlanes(IconDocument& doc) {
 }
 
 void Canvas::drawFloating(const IconDocument& doc, int left, int top, int right, int bottom) {
-    stretchMasked(PicMain, left, top, right - left, bottom - top, doc.PicSelMask, doc.PicSelImage);
+    stampFloating(doc, left, top, right, bottom);
     drawGrid(doc.zoom);
+}
+
+void Canvas::stampFloating(const IconDocument& doc, int left, int top, int right, int bottom) {
+    stretchMasked(PicMain, left, top, right - left, bottom - top, doc.PicSelMask, doc.PicSelImage);
     drawMasked(PicIcon, left / doc.zoom, top / doc.zoom, doc.PicSelMask, doc.PicSelImage);
 }
 
 void Canvas::refreshWithFloating(IconDocument& doc, int left, int top, int right, int bottom) {
     refreshFromPlanes(doc);
-    drawFloating(doc, left, top, right, bottom);
+    stampFloating(doc, left, top, right, bottom);
     drawSelectionRect(left, top, right, bottom);
 }
 

@@ -45,7 +45,11 @@ class Canvas {
     // (left, top)-(right, bottom) (canvas pixels) and over the preview at the
     // matching icon pixels, then the grid. The back buffer is left alone.
     void drawFloating(const IconDocument& doc, int left, int top, int right, int bottom);
-    // refreshFromPlanes, the floating selection over it, and its marquee.
+    // The same without the grid.
+    void stampFloating(const IconDocument& doc, int left, int top, int right, int bottom);
+    // refreshFromPlanes, the floating selection over it, and its marquee. The
+    // grid is not drawn again, so the selection shows without inner grid
+    // lines until it is moved.
     void refreshWithFloating(IconDocument& doc, int left, int top, int right, int bottom);
     // The selection marquee: an inverting box 3 pixels wide on PicMain.
     // Drawing it twice removes it.

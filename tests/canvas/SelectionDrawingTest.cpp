@@ -68,7 +68,7 @@ TEST(SelectionDrawingTest, TheMarqueeIsAThreePixelInvertedBoxThatASecondDrawingR
     const int left = 72, top = 96, right = 120, bottom = 144;
     Canvas plain;
     plain.refreshFromPlanes(doc);
-    plain.drawFloating(doc, left, top, right, bottom);
+    plain.stampFloating(doc, left, top, right, bottom);
     Canvas marked;
     marked.refreshWithFloating(doc, left, top, right, bottom);
     EXPECT_EQ(marked.PicMainCopy, plain.PicMainCopy);

@@ -1,5 +1,6 @@
 #include "tools/ToolsFixture.h"
 
+#include "canvas/Canvas.h"
 #include "editing/EditTarget.h"
 
 namespace {
@@ -57,7 +58,16 @@ TEST_F(EditTargetTest, TheSelectionIsRedrawnUnrecordedAndTheWholeIconRefreshedAn
             expectViews();
         } else {
             EXPECT_EQ(doc().PicSelImage.pixel(0, 0), kBlue);
-            expectViews(true, true);
+            // The selection is drawn over the grid, which is not drawn again.
+            Canvas expected;
+            expected.placePreview(doc().size);
+            expected.compose(doc());
+            expected.stampFloating(doc(), rect().Left, rect().Top, rect().Right, rect().Bottom);
+            expected.drawSelectionRect(rect().Left, rect().Top, rect().Right, rect().Bottom);
+            EXPECT_EQ(editor->canvas().PicMain, expected.PicMain);
+            EXPECT_EQ(editor->canvas().PicIcon, expected.PicIcon);
+            EXPECT_EQ(editor->canvas().PicMain.pixel(rect().Left + zoom(), rect().Top + 5), kRed)
+                << "no grid line between the selection's cells";
         }
         EXPECT_TRUE(doc().modified) << "whatever the target, the picture changed";
 
