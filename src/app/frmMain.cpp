@@ -56,6 +56,8 @@ frmMain::frmMain(EditorDialogs* dialogs, ClipboardService* clipboard)
       ownClipboard_(clipboard ? nullptr : std::make_unique<QtClipboard>()),
       editor_(dialogs ? *dialogs : *ownDialogs_, clipboard ? *clipboard : *ownClipboard_) {
     useQtEvents(editor_.services());
+    const QColor face = palette().color(QPalette::Button);
+    editor_.canvas().buttonFace = rgb(face.red(), face.green(), face.blue());
     setObjectName("frmMain");
     setWindowIcon(ToolIcons::icon(1));
     setAcceptDrops(true);

@@ -11,7 +11,7 @@ Canvas::Canvas()
 }
 
 void Canvas::placePreview(int size) {
-    PicIcon.reset(size, size, kButtonFace);
+    PicIcon.reset(size, size, buttonFace);
     previewLeft = kPreviewCentreX - size / 2;
     previewTop = kPreviewCentreY - size / 2;
 }
@@ -56,7 +56,7 @@ void Canvas::compose(const IconDocument& doc) {
 }
 
 void Canvas::composePreview(const IconDocument& doc) {
-    PicIcon.fill(kButtonFace);
+    PicIcon.fill(buttonFace);
     drawMasked(PicIcon, 0, 0, doc.PicMask, doc.PicImage);
 }
 

@@ -63,6 +63,9 @@ class Canvas {
     Plane PicMain;
     Plane PicMainCopy;
     Plane PicIcon;
+    // The system button-face colour behind the preview; the shell sets it
+    // from the running style.
+    Colour buttonFace = kButtonFace;
     int previewLeft = 0;
     int previewTop = 0;
 

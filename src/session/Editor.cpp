@@ -55,7 +55,7 @@ void Editor::newIcon(int sizeIndex) {
         doc_.windowTitle = QStringLiteral("Brevik - Untitled");
         files_.multiImage = false;
     }
-    canvas_.PicIcon.fill(kButtonFace);
+    canvas_.PicIcon.fill(canvas_.buttonFace);
     doc_.filePath.clear();
     doc_.fileTitle.clear();
     tools_.resetToPencil();

@@ -14,6 +14,7 @@ struct DrawingColour {
     Colour mask = kBlack;    // PicMask
     Colour image = kBlack;   // PicImage
 
-    // buttonValue is a ButtonColours value (an RGB colour or -2).
-    static DrawingColour of(std::int32_t buttonValue, bool erase);
+    // buttonValue is a ButtonColours value (an RGB colour or -2); a
+    // transparent pixel shows buttonFace in the preview.
+    static DrawingColour of(std::int32_t buttonValue, bool erase, Colour buttonFace);
 };

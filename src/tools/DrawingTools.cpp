@@ -92,8 +92,9 @@ void DrawingTools::mouseDown(int button, int x, int y) {
         context_.undoRedo().ClearRedo();
     const int index = button - 1;
     gesture_.buttonIndex = index;
-    gesture_.colour = DrawingColour::of(colours_.value[index], tool == Erase);
-    gesture_.other = DrawingColour::of(colours_.value[1 - index], false);
+    const Colour face = context_.canvas().buttonFace;
+    gesture_.colour = DrawingColour::of(colours_.value[index], tool == Erase, face);
+    gesture_.other = DrawingColour::of(colours_.value[1 - index], false, face);
     gesture_.startX = x;
     gesture_.startY = y;
     pressedButton_ = button;

@@ -101,6 +101,24 @@ TEST_F(MainWindowTest, OpenKeepsTheCanvasDisabledUntilTheTimerTicks) {
     EXPECT_FALSE(window->TmrEnable->isActive());
 }
 
+TEST_F(MainWindowTest, ThePreviewShowsTransparencyInTheStylesButtonFace) {
+    QPalette palette = QApplication::palette();
+    const QPalette saved = palette;
+    palette.setColor(QPalette::Button, QColor(30, 60, 90)); // a dark theme's face
+    QApplication::setPalette(palette);
+    frmMain dark(&dialogs, &clipboard);
+    dark.editor().registry() = ModRegistry(folder.filePath("dark.ini"));
+    dark.startUp({});
+    QApplication::setPalette(saved);
+    const Colour face = rgb(30, 60, 90);
+    EXPECT_EQ(dark.editor().canvas().PicIcon, Plane(32, 32, face)) << "a new icon is transparent";
+    dark.editor().colours().value[0] = kTransparentColour;
+    dark.editor().colours().value[1] = kTransparentColour;
+    dark.editor().tools().mouseDown(1, 30, 30); // the pencil paints a transparent pixel
+    dark.editor().tools().mouseUp(1, 30, 30);
+    EXPECT_EQ(dark.editor().canvas().PicIcon.pixel(2, 2), face);
+}
+
 TEST_F(MainWindowTest, TheCommandLineAndDropsReachOpen) {
     QFile file(folder.filePath("first.ico"));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write("not an icon") > 0);
