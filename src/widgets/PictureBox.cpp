@@ -2,6 +2,7 @@
 
 #include "widgets/PlaneImage.h"
 
+#include <QCursor>
 #include <QMouseEvent>
 #include <QPainter>
 
@@ -89,7 +90,13 @@ void PictureBox::mousePressEvent(QMouseEvent* event) {
 
 void PictureBox::mouseMoveEvent(QMouseEvent* event) {
     const int buttons = buttonSum(event->buttons());
-    emit mouseMove(buttons, pointOf(event, buttons != 0));
+    const QPointF point = pointOf(event, buttons != 0);
+    // A confined picture holds the real pointer inside itself while a button
+    // is down, as the system's cursor clipping would, not only the points it
+    // reports.
+    if (point != event->position())
+        QCursor::setPos(screen(), mapToGlobal(point.toPoint()));
+    emit mouseMove(buttons, point);
 }
 
 void PictureBox::mouseReleaseEvent(QMouseEvent* event) {

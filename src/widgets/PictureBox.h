@@ -21,6 +21,8 @@ class PictureBox : public QWidget {
 
     // While a button is down, points are held inside the picture, as if the
     // pointer were confined to it (the pickers).
+    // While a button is down, points outside the picture are reported at its
+    // nearest edge and the pointer is held inside it.
     void setConfined(bool confined) { confined_ = confined; }
 
     static int buttonNumber(Qt::MouseButton button);
