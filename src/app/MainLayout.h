@@ -8,8 +8,9 @@
 // bar), in pixels. The canvas, the preview box and the read-out boxes are
 // fixed by the program's look; the rest is laid out around them.
 namespace MainLayout {
-// The window, menu bar included.
-constexpr QSize kWindowSize(582, 460);
+// The area under the menu bar: the canvas's margins (11 left, 14 top) are
+// kept on the right of the pickers and under the canvas.
+constexpr QSize kClientSize(582, 412);
 
 constexpr QPoint kCanvas(11, 14); // PicMain, 385 x 385
 constexpr QRect kPreviewBox(408, 11, 96, 54);
@@ -33,11 +34,12 @@ inline QRect toolCell(int tool) {
 constexpr QPoint kMiniPal(408, 272); // 96 x 52
 constexpr QPoint kGreyPal(410, 334); // 92 x 32
 constexpr QPoint kScreen(410, 378);  // PicScreen, 23 x 12
-constexpr QRect kScreenLabel(437, 375, 80, 18);
-constexpr QPoint kPal(520, 14);    // 51 x 335
-constexpr QPoint kLeft(548, 363);  // PicLeft, 23 x 12
-constexpr QPoint kRight(548, 383); // PicRight, 23 x 12
-constexpr QRect kLeftLabel(513, 360, 32, 18);
-constexpr QRect kRightLabel(513, 380, 32, 18);
+// The labels' boxes never overlap, so no font can make their texts collide.
+constexpr QRect kScreenLabel(437, 375, 72, 18);
+constexpr QPoint kPal(520, 14);               // 51 x 335
+constexpr QPoint kLeft(548, 363);             // PicLeft, 23 x 12
+constexpr QPoint kRight(548, 383);            // PicRight, 23 x 12
+constexpr QRect kLeftLabel(511, 360, 34, 18); // right-aligned to the swatch
+constexpr QRect kRightLabel(511, 380, 34, 18);
 constexpr QSize kSwatch(23, 12);
 } // namespace MainLayout

@@ -120,8 +120,10 @@ void frmMain::buildClient() {
     PicRight = new PictureBox(QStringLiteral("PicRight"), client);
     PicRight->move(kRight);
     PicRight->setToolTip(QStringLiteral("Right Mouse-Button Color"));
-    addLabel(client, QStringLiteral("LblLeft"), kLeftLabel, QStringLiteral("Left"));
-    addLabel(client, QStringLiteral("LblRight"), kRightLabel, QStringLiteral("Right"));
+    addLabel(client, QStringLiteral("LblLeft"), kLeftLabel, QStringLiteral("Left"))
+        ->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    addLabel(client, QStringLiteral("LblRight"), kRightLabel, QStringLiteral("Right"))
+        ->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
 }
 
 PictureBox* frmMain::addPicker(QWidget* client, const QString& name, QPoint at, const Plane& plane,
@@ -149,6 +151,13 @@ PictureBox* frmMain::addPicker(QWidget* client, const QString& name, QPoint at, 
 }
 
 void frmMain::buildToolButtons(QWidget* client) {
+    // The chosen tool is pressed in and outlined, so it is unmistakable among
+    // the raised others.
+    client->setStyleSheet(
+        QStringLiteral("QToolButton#OptTool { border: 1px outset palette(mid); border-radius: 2px;"
+                       " background: palette(button); }"
+                       "QToolButton#OptTool:checked { border: 2px inset palette(shadow);"
+                       " background: palette(midlight); }"));
     auto* group = new QButtonGroup(this);
     group->setExclusive(true);
     const int inset = (kToolCell - kToolButton) / 2;
@@ -244,7 +253,9 @@ void frmMain::startUp(const QString& commandLine) {
     syncFromCore();
     refreshRecentMenu();
     menus.MnuExit->setText(menus.MnuExit->text() + QStringLiteral("\tAlt+F4"));
-    setFixedSize(kWindowSize);
+    // The client area is what the layout needs; a window manager's frame
+    // comes on top of it.
+    setFixedSize(kClientSize.width(), kClientSize.height() + menuBar()->sizeHint().height());
     WindowPlacement::place(*this);
     // The tool buttons never take the keyboard focus, so keys stay with the
     // window and its menus.

@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QLabel>
+#include <QMenuBar>
 #include <QMimeData>
 #include <QScreen>
 #include <QTest>
@@ -15,13 +16,28 @@ namespace {
 
 class MainWindowTest : public MainWindowFixture {};
 
-TEST_F(MainWindowTest, StartsUntitledWith582By460CentredAThirdDown) {
+TEST_F(MainWindowTest, StartsUntitledWithTheLayoutsClientAreaCentredAThirdDown) {
     EXPECT_TRUE(window->isVisible());
     EXPECT_EQ(window->windowTitle(), "Brevik - Untitled");
-    EXPECT_EQ(window->size(), QSize(582, 460));
+    // The canvas's margins all round: 11 at the sides, 14 above, 13 below.
+    EXPECT_EQ(window->centralWidget()->size(), QSize(582, 412));
+    const QSize size = window->size();
+    EXPECT_EQ(size, QSize(582, 412 + window->menuBar()->height()));
     const QRect screen = window->screen()->geometry();
-    EXPECT_EQ(window->pos(), QPoint((screen.width() - 582) / 2, (screen.height() - 460) / 3));
+    EXPECT_EQ(window->pos(),
+              QPoint((screen.width() - size.width()) / 2, (screen.height() - size.height()) / 3));
     EXPECT_EQ(window->PicMain->geometry(), QRect(11, 14, 385, 385));
+    // No two labels share a pixel, and each text fits its box.
+    const QStringList labels = {"LblTransparent", "LblLeft", "LblRight"};
+    for (const QString& name : labels) {
+        const auto* label = window->findChild<QLabel*>(name);
+        ASSERT_NE(label, nullptr) << name.toStdString();
+        EXPECT_LE(label->fontMetrics().horizontalAdvance(label->text()), label->width());
+        for (const QString& other : labels)
+            EXPECT_TRUE(other == name || !label->geometry().intersects(
+                                             window->findChild<QLabel*>(other)->geometry()))
+                << name.toStdString() << " and " << other.toStdString();
+    }
     // The preview box's sunken edge is one pixel: shadow left, highlight right.
     const QImage client = window->centralWidget()->grab().toImage();
     const QPalette& shades = window->centralWidget()->palette();
@@ -50,6 +66,15 @@ TEST_F(MainWindowTest, ToolButtonsCarryTheToolNamesAndNeverTakeTheFocus) {
     EXPECT_EQ(names.join(", "),
               "Select, Pencil, Erase, Sample, Flood, Line, Rectangle, Ellipse, Solid Rectangle, "
               "Solid Ellipse, Filled Rectangle, Filled Ellipse");
+    // The chosen tool (the last one) is pressed in: a shadow edge and a face
+    // of its own, where the others are raised on the button face.
+    const QImage chosen = window->OptTool[11]->grab().toImage();
+    const QImage other = window->OptTool[10]->grab().toImage();
+    const QPalette& palette = window->OptTool[11]->palette();
+    EXPECT_EQ(chosen.pixel(0, 14), palette.shadow().color().rgb());
+    EXPECT_EQ(chosen.pixel(3, 3), palette.midlight().color().rgb());
+    EXPECT_EQ(other.pixel(3, 3), palette.button().color().rgb());
+    EXPECT_NE(palette.midlight().color(), palette.button().color());
 }
 
 TEST_F(MainWindowTest, NewIconShortcutsRedrawTheCanvasAtTheirZoom) {
