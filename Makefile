@@ -43,11 +43,13 @@ bench:
 	./build-bench/bench/brevik_bench
 
 FUZZ_SECONDS ?= 60
+# FUZZERS=RecentStoreFuzzer runs only the harnesses named; all by default.
+FUZZERS ?=
 fuzz:
 	@./scripts/install-deps.sh --extras
 	CXX=clang++ cmake -S . -B build-fuzz -DBREVIK_BUILD_FUZZ=ON -DBREVIK_BUILD_TESTS=OFF -DBREVIK_BUILD_SHELL=OFF
 	cmake --build build-fuzz -j $(JOBS)
-	./scripts/fuzz.sh build-fuzz/fuzz $(FUZZ_SECONDS)
+	./scripts/fuzz.sh build-fuzz/fuzz $(FUZZ_SECONDS) $(FUZZERS)
 
 clean:
 	rm -rf $(BUILD) build-asan build-bench build-fuzz

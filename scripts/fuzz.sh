@@ -1,28 +1,33 @@
 #!/usr/bin/env bash
 # Runs every libFuzzer harness in a build folder for a number of seconds each,
 # one after the other, and sums up what each did.
-#   scripts/fuzz.sh build-fuzz/fuzz 60
+#   scripts/fuzz.sh build-fuzz/fuzz 60 [harness ...]
 # Each harness starts from its seeds in fuzz/corpus/<harness>/ (written by
 # scripts/fuzz-seeds.py) and keeps what it learns in <build folder>/corpus/
 # <harness>. Findings land in <build folder>/findings/<harness>, the full
 # output in <build folder>/logs/<harness>.log.
 set -euo pipefail
 
-dir=${1:?usage: fuzz.sh <folder with the fuzzer binaries> [seconds each]}
+dir=${1:?usage: fuzz.sh <folder with the fuzzer binaries> [seconds each] [harness ...]}
 seconds=${2:-60}
+shift $(($# < 2 ? $# : 2))
 here=$(cd "$(dirname "$0")/.." && pwd)
 
 shopt -s nullglob
 harnesses=("$dir"/*Fuzzer)
+if [ $# -gt 0 ]; then
+    harnesses=("${@/#/$dir/}")
+fi
 if [ ${#harnesses[@]} -eq 0 ]; then
     echo "error: no fuzzers in $dir; build with -DBREVIK_BUILD_FUZZ=ON first" >&2
     exit 1
 fi
 
-summary=$(printf '%-24s %12s %8s %8s %8s %9s' harness executions cov ft corpus findings)
+summary=$(printf '%-24s %12s %8s %8s %12s %9s' harness executions cov ft corpus findings)
 failed=0
 for harness in "${harnesses[@]}"; do
     name=$(basename "$harness")
+    [ -x "$harness" ] || { echo "error: no harness $harness" >&2; exit 1; }
     corpus="$dir/corpus/$name"
     findings="$dir/findings/$name"
     log="$dir/logs/$name.log"
@@ -39,16 +44,17 @@ for harness in "${harnesses[@]}"; do
         grep -m1 -E '^(==[0-9]+==ERROR|SUMMARY)' "$log" >&2 || tail -20 "$log" >&2
         failed=1
     fi
-    # The last status line has the coverage ("#N DONE cov: ... ft: ..."); the
-    # final stats have the number of executions.
+    # The last status line has the coverage and the corpus in files/bytes
+    # ("#N DONE cov: 404 ft: 1244 corp: 200/164Kb"); the final stats have the
+    # number of executions.
     runs=$(sed -n 's/^stat::number_of_executed_units: *//p' "$log" | tail -1)
     status=$(grep -E '^#[0-9]+' "$log" | tail -1 || true)
     cov=$(sed -n 's/.* cov: \([0-9]*\).*/\1/p' <<<"$status")
     ft=$(sed -n 's/.* ft: \([0-9]*\).*/\1/p' <<<"$status")
-    files=$(find "$corpus" -type f | wc -l)
+    corp=$(sed -n 's/.* corp: \([0-9]*\/[0-9]*[a-zA-Z]*\).*/\1/p' <<<"$status")
     found=$(find "$findings" -type f | wc -l)
-    summary+=$'\n'$(printf '%-24s %12s %8s %8s %8s %9s' "$name" "${runs:-?}" "${cov:-?}" \
-        "${ft:-?}" "$files" "$found")
+    summary+=$'\n'$(printf '%-24s %12s %8s %8s %12s %9s' "$name" "${runs:-?}" "${cov:-?}" \
+        "${ft:-?}" "${corp:-?}" "$found")
 done
 echo
 echo "$summary"
