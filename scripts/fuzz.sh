@@ -38,6 +38,8 @@ for harness in "${harnesses[@]}"; do
     fi
     cp -n "$here/fuzz/corpus/$name"/* "$corpus"/
     echo "== $name: $seconds s (output in $log)"
+    # Findings of earlier runs stay for a look but are not counted again.
+    touch "$dir/logs/$name.start"
     if ! "$harness" "$corpus" -max_total_time="$seconds" -timeout=10 -rss_limit_mb=2048 \
             -max_len=65536 -artifact_prefix="$findings/" -print_final_stats=1 >"$log" 2>&1; then
         echo "!! $name found a problem; the input is in $findings" >&2
@@ -52,7 +54,7 @@ for harness in "${harnesses[@]}"; do
     cov=$(sed -n 's/.* cov: \([0-9]*\).*/\1/p' <<<"$status")
     ft=$(sed -n 's/.* ft: \([0-9]*\).*/\1/p' <<<"$status")
     corp=$(sed -n 's/.* corp: \([0-9]*\/[0-9]*[a-zA-Z]*\).*/\1/p' <<<"$status")
-    found=$(find "$findings" -type f | wc -l)
+    found=$(find "$findings" -type f -newer "$dir/logs/$name.start" | wc -l)
     summary+=$'\n'$(printf '%-24s %12s %8s %8s %12s %9s' "$name" "${runs:-?}" "${cov:-?}" \
         "${ft:-?}" "${corp:-?}" "$found")
 done
