@@ -1,71 +1,63 @@
 #!/usr/bin/env bash
-# Runs every libFuzzer harness in a build folder for a number of seconds each.
-#   scripts/fuzz.sh build-fuzz/fuzz 60
-# Each harness starts from its seeds (fuzz/corpus/<harness>/ when present,
-# otherwise small valid icons made here) and keeps what it learns in
-# <build folder>/corpus/<harness>. Findings land in <build folder>/findings.
+# Runs every libFuzzer harness in a build folder for a number of seconds each,
+# one after the other, and sums up what each did.
+#   scripts/fuzz.sh build-fuzz/fuzz 60 [harness ...]
+# Each harness starts from its seeds in fuzz/corpus/<harness>/ (written by
+# scripts/fuzz-seeds.py) and keeps what it learns in <build folder>/corpus/
+# <harness>. Findings land in <build folder>/findings/<harness>, the full
+# output in <build folder>/logs/<harness>.log.
 set -euo pipefail
 
-dir=${1:?usage: fuzz.sh <folder with the fuzzer binaries> [seconds each]}
+dir=${1:?usage: fuzz.sh <folder with the fuzzer binaries> [seconds each] [harness ...]}
 seconds=${2:-60}
+shift $(($# < 2 ? $# : 2))
 here=$(cd "$(dirname "$0")/.." && pwd)
-
-# Tiny valid icons: one image at each depth, and a file of two images.
-make_icon_seeds() {
-    /usr/bin/python3 - "$1" <<'PY'
-import struct, sys, os
-out = sys.argv[1]
-
-def image(size, depth):
-    table = (1 << depth) if depth <= 8 else 0
-    row = (size * depth + 31) // 32 * 4
-    mask_row = (size + 31) // 32 * 4
-    header = struct.pack('<IiiHHIIiiII', 40, size, 2 * size, 1, depth, 0, 0, 0, 0, 0, 0)
-    colours = bytes((i * 37) & 0xFF for i in range(4 * table))
-    pixels = bytes((i * 11) & 0xFF for i in range(row * size))
-    mask = bytes(0xF0 if i % 3 else 0 for i in range(mask_row * size))
-    return header + colours + pixels + mask
-
-def icon(images):
-    head = struct.pack('<HHH', 0, 1, len(images))
-    offset = 6 + 16 * len(images)
-    entries = b''
-    for size, depth, data in images:
-        entries += struct.pack('<BBBBHHii', size, size, 0, 0, 1, depth, len(data), offset)
-        offset += len(data)
-    return head + entries + b''.join(d for _, _, d in images)
-
-for depth in (1, 4, 8, 24, 32):
-    with open(os.path.join(out, 'single-%d.ico' % depth), 'wb') as f:
-        f.write(icon([(16, depth, image(16, depth))]))
-with open(os.path.join(out, 'two.ico'), 'wb') as f:
-    f.write(icon([(16, 4, image(16, 4)), (32, 8, image(32, 8))]))
-PY
-}
 
 shopt -s nullglob
 harnesses=("$dir"/*Fuzzer)
+if [ $# -gt 0 ]; then
+    harnesses=("${@/#/$dir/}")
+fi
 if [ ${#harnesses[@]} -eq 0 ]; then
     echo "error: no fuzzers in $dir; build with -DBREVIK_BUILD_FUZZ=ON first" >&2
     exit 1
 fi
 
+summary=$(printf '%-24s %12s %8s %8s %12s %9s' harness executions cov ft corpus findings)
 failed=0
 for harness in "${harnesses[@]}"; do
     name=$(basename "$harness")
+    [ -x "$harness" ] || { echo "error: no harness $harness" >&2; exit 1; }
     corpus="$dir/corpus/$name"
     findings="$dir/findings/$name"
-    mkdir -p "$corpus" "$findings"
-    if [ -d "$here/fuzz/corpus/$name" ]; then
-        cp -n "$here/fuzz/corpus/$name"/* "$corpus"/ 2>/dev/null || true
-    elif [ "$name" = IconReaderFuzzer ]; then
-        make_icon_seeds "$corpus"
+    log="$dir/logs/$name.log"
+    mkdir -p "$corpus" "$findings" "$dir/logs"
+    if [ ! -d "$here/fuzz/corpus/$name" ]; then
+        echo "error: $name has no seeds; run scripts/fuzz-seeds.py" >&2
+        exit 1
     fi
-    echo "== $name: $seconds s"
+    cp -n "$here/fuzz/corpus/$name"/* "$corpus"/
+    echo "== $name: $seconds s (output in $log)"
+    # Findings of earlier runs stay for a look but are not counted again.
+    touch "$dir/logs/$name.start"
     if ! "$harness" "$corpus" -max_total_time="$seconds" -timeout=10 -rss_limit_mb=2048 \
-            -max_len=65536 -artifact_prefix="$findings/" -print_final_stats=1; then
+            -max_len=65536 -artifact_prefix="$findings/" -print_final_stats=1 >"$log" 2>&1; then
         echo "!! $name found a problem; the input is in $findings" >&2
+        grep -m1 -E '^(==[0-9]+==ERROR|SUMMARY)' "$log" >&2 || tail -20 "$log" >&2
         failed=1
     fi
+    # The last status line has the coverage and the corpus in files/bytes
+    # ("#N DONE cov: 404 ft: 1244 corp: 200/164Kb"); the final stats have the
+    # number of executions.
+    runs=$(sed -n 's/^stat::number_of_executed_units: *//p' "$log" | tail -1)
+    status=$(grep -E '^#[0-9]+' "$log" | tail -1 || true)
+    cov=$(sed -n 's/.* cov: \([0-9]*\).*/\1/p' <<<"$status")
+    ft=$(sed -n 's/.* ft: \([0-9]*\).*/\1/p' <<<"$status")
+    corp=$(sed -n 's/.* corp: \([0-9]*\/[0-9]*[a-zA-Z]*\).*/\1/p' <<<"$status")
+    found=$(find "$findings" -type f -newer "$dir/logs/$name.start" | wc -l)
+    summary+=$'\n'$(printf '%-24s %12s %8s %8s %12s %9s' "$name" "${runs:-?}" "${cov:-?}" \
+        "${ft:-?}" "${corp:-?}" "$found")
 done
+echo
+echo "$summary"
 exit $failed
