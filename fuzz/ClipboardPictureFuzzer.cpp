@@ -3,8 +3,9 @@
 // and checks the floating selection pixel by pixel, then the committed icon.
 // Input: flags (size index, opaque), the paste dialog's answer, width and
 // height (16-bit little-endian), then RGB pixels, repeated to fill.
-#include "app/Editor.h"
-#include "platform/UserDialogs.h"
+#include "platform/MemoryClipboard.h"
+#include "session/CancellingDialogs.h"
+#include "session/Editor.h"
 
 #include <cstdint>
 #include <cstdlib>
@@ -21,29 +22,14 @@ void check(bool promise) {
 constexpr int kMaxSide = 4096;
 constexpr int kMaxPixels = 1 << 17;
 
-class FixedClipboard : public ClipboardService {
-  public:
-    bool hasImage() const override { return !picture.isEmpty(); }
-    Plane image() const override { return picture; }
-    void setImage(const Plane& p) override { picture = p; }
-    Plane picture;
-};
-
 // Answers "Paste Options" with the fuzzed choice and cancels everything else.
-class PasteAnswer : public UserDialogs {
+class PasteAnswer : public CancellingDialogs {
   public:
     explicit PasteAnswer(int answer) : answer_(answer) {}
-    void showMessage(const QString&, const QString&, MessageIcon) override {}
-    PromptAnswer askYesNoCancel(const QString&, const QString&) override {
-        return PromptAnswer::Cancel;
-    }
-    std::optional<FileChoice> chooseFile(FileDialogMode, const QString&) override { return {}; }
-    int chooseIconLine(const QStringList&) override { return -1; }
     int choosePasteOption() override {
         ++asked;
         return answer_;
     }
-    std::optional<HotSpot> chooseHotSpot(const Plane&, int, int) override { return {}; }
     int asked = 0;
 
   private:
@@ -78,39 +64,39 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (width > 0 && width * height > kMaxPixels)
         height = kMaxPixels / width;
 
-    FixedClipboard clipboard;
+    MemoryClipboard clipboard;
     clipboard.picture = pictureFrom(data + 6, size - 6, width, height);
     PasteAnswer dialogs(answer);
-    Services services;
-    services.clipboard = &clipboard;
-    services.dialogs = &dialogs;
-    Editor editor(services);
+    Editor editor(dialogs, clipboard);
     editor.newIcon(sizeIndex);
-    const Plane image = editor.doc.PicImage, mask = editor.doc.PicMask;
+    const Plane image = editor.doc().PicImage, mask = editor.doc().PicMask;
     const int iconSide = image.width();
     const Plane& clip = clipboard.picture;
 
-    editor.editAction(opaque ? 6 : 5);
+    editor.editAction(opaque ? EditAction::PasteOpaque : EditAction::Paste);
 
     // Only a picture larger than the icon asks how to shrink it.
     const bool tooBig = width > iconSide || height > iconSide;
     check(dialogs.asked == (!clip.isEmpty() && tooBig ? 1 : 0));
-    const Selection& sel = editor.selection;
+    const Selection& sel = editor.selection();
+    // A cancelled choice changes nothing; an empty picture floats as an empty
+    // selection, which changes no pixel.
     if (clip.isEmpty() || (tooBig && answer != 0 && answer != 1)) {
-        check(!sel.exists() && !editor.doc.modified);
-        check(editor.doc.PicImage == image && editor.doc.PicMask == mask);
+        check(clip.isEmpty() ? sel.SelFloating && sel.SelRect.Right == 0 && editor.doc().modified
+                             : !sel.exists() && !editor.doc().modified);
+        check(editor.doc().PicImage == image && editor.doc().PicMask == mask);
         return 0;
     }
 
     // The floating selection: within the icon, at its top-left corner.
-    const Plane selImage = editor.doc.PicSelImage, selMask = editor.doc.PicSelMask;
+    const Plane selImage = editor.doc().PicSelImage, selMask = editor.doc().PicSelMask;
     const int w = selMask.width(), h = selMask.height();
-    check(sel.SelFloating && editor.doc.modified);
+    check(sel.SelFloating && editor.doc().modified);
     check(selImage.width() == w && selImage.height() == h);
     check(w >= 1 && h >= 1 && w <= iconSide && h <= iconSide);
     check(tooBig || (w == width && h == height));
     check(!tooBig || answer != 0 || (w == iconSide && h == iconSide));
-    const int zoom = editor.doc.zoom;
+    const int zoom = editor.doc().zoom;
     check(sel.SelRect.Left == 0 && sel.SelRect.Top == 0 && sel.SelRect.Right == zoom * w &&
           sel.SelRect.Bottom == zoom * h);
     // Each selection pixel is the picture's nearest pixel; plain Paste makes
@@ -125,14 +111,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     }
 
     // Committed, the opaque pixels cover the icon and the rest shows through.
-    editor.editAction(9);
+    editor.editAction(EditAction::Deselect);
     check(!sel.exists());
     for (int y = 0; y < iconSide; ++y) {
         for (int x = 0; x < iconSide; ++x) {
             const bool covered = x < w && y < h && selMask.pixel(x, y) == kBlack;
-            check(editor.doc.PicImage.pixel(x, y) ==
+            check(editor.doc().PicImage.pixel(x, y) ==
                   (covered ? selImage.pixel(x, y) : image.pixel(x, y)));
-            check(editor.doc.PicMask.pixel(x, y) == (covered ? kBlack : mask.pixel(x, y)));
+            check(editor.doc().PicMask.pixel(x, y) == (covered ? kBlack : mask.pixel(x, y)));
         }
     }
     return 0;

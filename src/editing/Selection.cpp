@@ -101,6 +101,10 @@ void Selection::Paste(bool opaque) {
     // item is greyed) PicClip is empty and the paste goes on: the selection
     // is committed and an empty one floats, which draws and loses nothing.
     PicClip = context_.services().clipboard.image();
+    // A picture without pixels is the empty picture, whatever size it
+    // claims: it neither asks how to shrink nor stretches from nothing.
+    if (PicClip.isEmpty())
+        PicClip = Plane();
     const int cw = PicClip.width(), ch = PicClip.height();
     const int iw = context_.canvas().PicIcon.width(), ih = context_.canvas().PicIcon.height();
     if (cw > iw || ch > ih) {

@@ -114,29 +114,31 @@ TEST_F(ClipboardTest, OnlyAPictureLargerThanTheIconAsksAndIsShrunkAsChosen) {
 // Cancel in the paste dialog changes nothing; an empty clipboard commits the
 // selection and pastes an empty one, which loses nothing.
 TEST_F(ClipboardTest, PasteThatGivesNoPictureLosesNothing) {
-    for (const int size : {0, 40}) {
-        SCOPED_TRACE(size);
+    // {0, 40}: no pixels, however tall it claims to be.
+    for (const auto& [width, size] : {std::pair(0, 0), std::pair(0, 40), std::pair(40, 40)}) {
+        SCOPED_TRACE(testing::Message() << width << " x " << size);
         startWithSize(1);
         paint(3, 3, kRed);
         recordPainting();
         mark(24, 24, 60, 60);
         const Plane image = doc().PicImage, canvas = editor->canvas().PicMain;
         dialogs.pasteDialogs = 0;
-        clipboard.picture = Plane(size, size, kBlue); // no scripted answer: Cancel
+        clipboard.picture = Plane(width, size, kBlue); // no scripted answer: Cancel
         editor->editAction(Paste);
         editor->editAction(PasteOpaque);
-        EXPECT_EQ(dialogs.pasteDialogs, size ? 2 : 0);
+        EXPECT_EQ(dialogs.pasteDialogs, width ? 2 : 0);
         EXPECT_EQ(sel().PasteChoice, -1);
-        EXPECT_EQ(sel().SelMarked, size != 0);
-        EXPECT_EQ(sel().SelFloating, size == 0);
-        EXPECT_EQ(std::pair(rect().Left, rect().Right), size ? std::pair(24, 60) : std::pair(0, 0));
+        EXPECT_EQ(sel().SelMarked, width != 0);
+        EXPECT_EQ(sel().SelFloating, width == 0);
+        EXPECT_EQ(std::pair(rect().Left, rect().Right),
+                  width ? std::pair(24, 60) : std::pair(0, 0));
         EXPECT_EQ(doc().PicImage, image);
-        if (size) {
+        if (width) {
             EXPECT_EQ(editor->canvas().PicMain, canvas);
         } else {
             expectViews(true, false);
         }
-        EXPECT_EQ(undoSize(), size ? 2u : 3u) << "an empty paste, committed, records a state";
+        EXPECT_EQ(undoSize(), width ? 2u : 3u) << "an empty paste, committed, records a state";
     }
 }
 
