@@ -9,6 +9,8 @@ packages=(
     libgtest-dev libgmock-dev
     qt6-qpa-plugins fonts-dejavu-core
     icoutils python3 python3-pil
+    # windres and ld build the real DLLs the icon extraction tests read.
+    binutils-mingw-w64-x86-64 binutils-mingw-w64-i686
 )
 if [ "${1:-}" = "--extras" ]; then
     # For looking at the editor by hand, benchmarks and fuzzing.

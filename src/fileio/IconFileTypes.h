@@ -40,6 +40,7 @@ enum class ReadFault {
     TooLarge,    // larger than any icon file this program reads
     OutOfBounds, // a count, size or offset points outside the file
     Unsupported, // a compression or bit depth the decoder does not know
+    Malformed,   // a structure that points back into itself or nests too deep
 };
 
 struct IconLoadResult {
