@@ -5,8 +5,10 @@
 #include "editing/EditTarget.h"
 #include "editing/Selection.h"
 #include "operations/Buttonize.h"
+#include "operations/ColourAdjustment.h"
 #include "operations/ColourTransforms.h"
 #include "operations/ImageTransforms.h"
+#include "operations/OperationDialogs.h"
 
 namespace {
 
@@ -81,6 +83,10 @@ bool Operations::imageActionEnabled(ImageAction item) const {
 }
 
 void Operations::colorAction(ColorAction item) {
+    if (item == ColorAction::AdjustColors) {
+        adjustColours();
+        return;
+    }
     if (item != ColorAction::Invert && item != ColorAction::Greyscale)
         return;
     const EditTarget target = targetFor(context_, false);
@@ -89,6 +95,18 @@ void Operations::colorAction(ColorAction item) {
     else
         ColourTransforms::greyscale(target.image, target.mask);
     finishEdit(context_, target);
+}
+
+void Operations::adjustColours() {
+    // The dialog shows and changes the whole icon, never a selection.
+    context_.commitSelection();
+    IconDocument& doc = context_.doc();
+    ColourAdjustment adjustment(doc.PicImage, doc.PicMask);
+    if (!dialogs_.adjustColours(adjustment))
+        return;
+    adjustment.apply(doc.PicImage);
+    context_.refresh();
+    context_.recordEdit();
 }
 
 void Operations::fxAction(FxAction item) {

@@ -3,6 +3,7 @@
 #include "operations/MenuActions.h"
 
 class EditContext;
+class OperationDialogs;
 
 // The commands of the Image and Color menus and of Effects > Buttonize. Each
 // picks its target (the floating selection, else the marked area, else the
@@ -10,7 +11,8 @@ class EditContext;
 // requires.
 class Operations {
   public:
-    explicit Operations(EditContext& context) : context_(context) {}
+    Operations(EditContext& context, OperationDialogs& dialogs)
+        : context_(context), dialogs_(dialogs) {}
 
     // A click on MnuImageAction(index); a separator's index does nothing.
     void imageAction(ImageAction item);
@@ -22,7 +24,9 @@ class Operations {
 
   private:
     void rotate(ImageAction item);
+    void adjustColours();
     void buttonize();
 
     EditContext& context_;
+    OperationDialogs& dialogs_;
 };

@@ -1,5 +1,6 @@
 #include "operations/Operations.h"
 #include "operations/Buttonize.h"
+#include "operations/ColourAdjustment.h"
 #include "operations/ColourTransforms.h"
 #include "operations/ImageTransforms.h"
 #include "tools/ToolsFixture.h"
@@ -109,6 +110,58 @@ TEST_F(OperationsTest, ASelectionChangesAloneUnrecordedAndTurnsClockwiseAfloat) 
     }
 }
 
+TEST_F(OperationsTest, AdjustColoursFreezesAChannelOutOfRangeAndOnlyOkWritesTheIcon) {
+    constexpr auto B = ColourAdjustment::Brightness, R = ColourAdjustment::Red,
+                   G = ColourAdjustment::Green;
+    constexpr int kReset = 1000; // a step that presses Reset
+    // The spinner changes, Ok, and what the opaque pixel (250, 100, 0) shows
+    // after each change.
+    const std::tuple<std::vector<std::pair<ColourAdjustment::Spinner, int>>, bool,
+                     std::vector<Colour>>
+        cases[] = {
+            // Red stops at 255 and comes down only when its count of 260 does.
+            // Blue stays at 0 while its count is below.
+            {{{B, 5}, {B, 10}, {B, 5}, {B, 0}, {R, -5}, {B, -5}, {B, 0}},
+             true,
+             {rgb(255, 105, 5), rgb(255, 110, 10), rgb(255, 105, 5), rgb(250, 100, 0),
+              rgb(245, 100, 0), rgb(240, 95, 0), rgb(245, 100, 0)}},
+            // One step a change, none when the value is the last one seen.
+            {{{G, 100}, {G, 100}}, true, {rgb(250, 105, 0), rgb(250, 105, 0)}},
+            {{{B, 5}, {G, 5}, {B, kReset}, {G, 5}},
+             true,
+             {rgb(255, 105, 5), rgb(255, 110, 5), rgb(250, 100, 0), rgb(250, 105, 0)}},
+            {{{ColourAdjustment::Blue, 5}}, false, {rgb(250, 100, 5)}},
+        };
+    for (const auto& [steps, ok, expected] : cases) {
+        startWithSize(0);
+        draw("ki", 'T');
+        paint(0, 0, rgb(250, 100, 0));
+        editor->recordEdit();
+        mark(at(3), at(3), at(5), at(5)); // committed first, unrecorded
+        Plane image = doc().PicImage;
+        const Plane mask = doc().PicMask;
+        std::vector<Colour> shown;
+        dialogs.colourAdjustments.push_back([&](ColourAdjustment& adjustment) {
+            for (const auto& [spinner, value] : steps) {
+                if (value == kReset)
+                    adjustment.reset();
+                else
+                    adjustment.spin(spinner, value);
+                shown.push_back(adjustment.shadeImage().pixel(0, 0));
+            }
+            return ok;
+        });
+        operations().colorAction(ColorAction::AdjustColors);
+        EXPECT_EQ(shown, expected);
+        if (ok)
+            image.setPixel(0, 0, expected.back());
+        EXPECT_EQ(std::pair(doc().PicImage, doc().PicMask), std::pair(image, mask));
+        EXPECT_FALSE(sel().exists());
+        EXPECT_EQ(undoSize(), ok ? 3u : 2u);
+        expectViews();
+    }
+}
+
 TEST_F(OperationsTest, ButtonizeCommitsASelectionFirst) {
     paint(0, 0, kRed);
     recordPainting();
@@ -116,6 +169,16 @@ TEST_F(OperationsTest, ButtonizeCommitsASelectionFirst) {
     operations().fxAction(FxAction::Buttonize);
     EXPECT_FALSE(sel().exists());
     EXPECT_EQ(pixelAt(0, 0), std::pair(rgb(255, 120, 120), kBlack));
+}
+
+TEST_F(OperationsTest, ResetShowsEveryPixelThatIsNotOpaqueAsThePreviewBackground) {
+    draw("ri", 'T');
+    ColourAdjustment adjustment(doc().PicImage, doc().PicMask);
+    adjustment.reset();
+    Plane image = doc().PicImage;
+    image.setPixel(1, 0, kBlack); // was inverting red
+    EXPECT_EQ(std::pair(adjustment.shadeImage(), adjustment.shadeMask()),
+              std::pair(image, doc().PicMask));
 }
 
 } // namespace
