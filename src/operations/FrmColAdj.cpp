@@ -9,9 +9,13 @@ namespace {
 
 constexpr int kRowTop = 10;
 constexpr int kRowPitch = 20;
-constexpr int kSpinnerLeft = 72;
+// The words, spinners and values share the 123 pixels left of the preview's
+// frame: room for "Brightness:" and "-255" in the usual dialog font.
+constexpr int kWordsLeft = 6;
+constexpr int kSpinnerLeft = 78;
 constexpr QSize kSpinner(16, 13);
-constexpr int kLabelLeft = 92;
+constexpr int kLabelLeft = 96;
+constexpr int kLabelWidth = 27;
 constexpr int kRange = 255;
 const char* const kWords[] = {"Brightness:", "Red:", "Green:", "Blue:"};
 
@@ -55,7 +59,7 @@ QScrollBar* FrmColAdj::addSpinner(ColourAdjustment::Spinner spinner, const char*
     });
     label = new QLabel(QStringLiteral("0"), this);
     label->setObjectName(QString::fromLatin1(name).replace(0, 3, QStringLiteral("Lbl")));
-    label->setGeometry(kLabelLeft, top - 1, 28, 15);
+    label->setGeometry(kLabelLeft, top - 1, kLabelWidth, 15);
     QLabel* shown = label;
     connect(bar, &QScrollBar::valueChanged, this, [this, spinner, shown](int value) {
         shown->setText(QString::number(value));
@@ -82,6 +86,7 @@ void FrmColAdj::paintEvent(QPaintEvent* event) {
     PreviewDialog::paintEvent(event);
     QPainter painter(this);
     for (int row = 0; row < 4; ++row)
-        painter.drawText(QRect(8, kRowTop + kRowPitch * row - 1, kSpinnerLeft - 10, 15),
-                         Qt::AlignLeft | Qt::AlignVCenter, QString::fromLatin1(kWords[row]));
+        painter.drawText(
+            QRect(kWordsLeft, kRowTop + kRowPitch * row - 1, kSpinnerLeft - kWordsLeft, 15),
+            Qt::AlignLeft | Qt::AlignVCenter, QString::fromLatin1(kWords[row]));
 }
