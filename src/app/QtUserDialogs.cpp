@@ -3,6 +3,7 @@
 #include "editing/FrmPaste.h"
 #include "fileio/FrmHotSpot.h"
 #include "fileio/FrmMultiIconDialog.h"
+#include "operations/FrmColAdj.h"
 
 #include <QFileDialog>
 #include <QFileInfo>
@@ -128,4 +129,10 @@ std::optional<HotSpot> QtUserDialogs::chooseHotSpot(const Plane& canvas, int zoo
     if (dialog.cancelled())
         return std::nullopt;
     return dialog.hotSpot();
+}
+
+bool QtUserDialogs::adjustColours(ColourAdjustment& adjustment) {
+    FrmColAdj dialog(adjustment, owner_);
+    dialog.exec();
+    return !dialog.cancelled();
 }

@@ -19,6 +19,7 @@ class QtUserDialogs : public EditorDialogs {
     int chooseIconLine(const QStringList& lines) override;
     int choosePasteOption() override;
     std::optional<HotSpot> chooseHotSpot(const Plane& canvas, int zoom, int maxIndex) override;
+    bool adjustColours(ColourAdjustment& adjustment) override;
 
     // The file dialog of a mode, set up but not shown: title, filters,
     // default extension, overwrite confirmation and starting folder.

@@ -207,6 +207,29 @@ void frmMain::connectMenus() {
     // live, and the core leaves alone what has nothing to act on.
     connect(menus.MnuEdit, &QMenu::aboutToHide, this, [this] { enableEditMenu(false); });
 
+    Operations& operations = editor_.operations();
+    for (QAction* item : menus.MnuImageAction) {
+        const auto action = static_cast<ImageAction>(item->property("index").toInt());
+        connect(item, &QAction::triggered, this,
+                [this, &operations, action] { run([&] { operations.imageAction(action); }); });
+    }
+    // Only the reflections have anything to grey, and they have no shortcuts.
+    connect(menus.MnuImage, &QMenu::aboutToShow, this, [this, &operations] {
+        for (QAction* item : menus.MnuImageAction)
+            item->setEnabled(operations.imageActionEnabled(
+                static_cast<ImageAction>(item->property("index").toInt())));
+    });
+    for (QAction* item : menus.MnuColorAction) {
+        const auto action = static_cast<ColorAction>(item->property("index").toInt());
+        connect(item, &QAction::triggered, this,
+                [this, &operations, action] { run([&] { operations.colorAction(action); }); });
+    }
+    for (QAction* item : menus.MnuFxAction) {
+        const auto action = static_cast<FxAction>(item->property("index").toInt());
+        connect(item, &QAction::triggered, this,
+                [this, &operations, action] { run([&] { operations.fxAction(action); }); });
+    }
+
     connect(menus.MnuContents, &QAction::triggered, this, &frmMain::showProductHelp);
     connect(menus.MnuAbout, &QAction::triggered, this, &frmMain::showAbout);
 }

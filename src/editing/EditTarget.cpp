@@ -22,7 +22,12 @@ void finishEdit(EditContext& context, const EditTarget& target) {
         context.recordEdit();
         return;
     }
+    // A rotation turns the selection planes: the rectangle takes their new
+    // size and keeps its top-left corner.
     Selection& selection = context.selection();
+    const int zoom = context.doc().zoom;
+    selection.SelRect.Right = selection.SelRect.Left + zoom * target.mask.width();
+    selection.SelRect.Bottom = selection.SelRect.Top + zoom * target.mask.height();
     if (target.kind == EditTarget::Marked)
         selection.MarkedChanged = true;
     selection.redrawFloating();

@@ -18,7 +18,8 @@ struct EditTarget {
 // The target of an operation. liftMarked makes a marked area float first
 // (a rotation changes its size, so it cannot stay in place).
 EditTarget targetFor(EditContext& context, bool liftMarked);
-// A selection is redrawn and records nothing: the change reaches the undo
+// A selection is redrawn, its rectangle sized to its planes (kept at its
+// top-left corner), and records nothing: the change reaches the undo
 // history when the selection is committed. The whole icon is refreshed and
 // then recorded.
 void finishEdit(EditContext& context, const EditTarget& target);

@@ -15,4 +15,5 @@ class CancellingDialogs : public EditorDialogs {
     int chooseIconLine(const QStringList&) override { return -1; }
     std::optional<HotSpot> chooseHotSpot(const Plane&, int, int) override { return {}; }
     int choosePasteOption() override { return -1; }
+    bool adjustColours(ColourAdjustment&) override { return false; }
 };

@@ -7,6 +7,7 @@
 #include "editing/ModUndoRedo.h"
 #include "editing/Selection.h"
 #include "fileio/FileCommands.h"
+#include "operations/Operations.h"
 #include "platform/Services.h"
 #include "session/EditorDialogs.h"
 #include "settings/ModRecent.h"
@@ -71,6 +72,7 @@ class Editor final : public EditContext {
     ColourPickers& pickers() { return pickers_; }
     DrawingTools& tools() { return tools_; }
     FileCommands& files() { return files_; }
+    Operations& operations() { return operations_; }
     ModRecent& recent() { return recent_; }
     // The store of the recent files and folder; a test points it elsewhere.
     ModRegistry& registry() { return registry_; }
@@ -95,4 +97,5 @@ class Editor final : public EditContext {
     ModRegistry registry_;
     QString recentFolder_;
     FileCommands files_;
+    Operations operations_;
 };

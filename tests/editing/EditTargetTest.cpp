@@ -58,14 +58,7 @@ TEST_F(EditTargetTest, TheSelectionIsRedrawnUnrecordedAndTheWholeIconRefreshedAn
             expectViews();
         } else {
             EXPECT_EQ(doc().PicSelImage.pixel(0, 0), kBlue);
-            // The selection is drawn over the grid, which is not drawn again.
-            Canvas expected;
-            expected.placePreview(doc().size);
-            expected.compose(doc());
-            expected.stampFloating(doc(), rect().Left, rect().Top, rect().Right, rect().Bottom);
-            expected.drawSelectionRect(rect().Left, rect().Top, rect().Right, rect().Bottom);
-            EXPECT_EQ(editor->canvas().PicMain, expected.PicMain);
-            EXPECT_EQ(editor->canvas().PicIcon, expected.PicIcon);
+            expectRedrawnSelection();
             EXPECT_EQ(editor->canvas().PicMain.pixel(rect().Left + zoom(), rect().Top + 5), kRed)
                 << "no grid line between the selection's cells";
         }

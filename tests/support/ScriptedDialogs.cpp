@@ -42,3 +42,9 @@ std::optional<HotSpot> ScriptedDialogs::chooseHotSpot(const Plane&, int, int) {
     ++hotSpotDialogs;
     return takeOr(hotSpots, std::optional<HotSpot>());
 }
+
+bool ScriptedDialogs::adjustColours(ColourAdjustment& adjustment) {
+    ++colourAdjustDialogs;
+    const auto user = takeOr(colourAdjustments, std::function<bool(ColourAdjustment&)>());
+    return user && user(adjustment);
+}

@@ -3,6 +3,7 @@
 #include "session/EditorDialogs.h"
 
 #include <deque>
+#include <functional>
 #include <vector>
 
 // Answers the editor's questions from a script and records every one asked.
@@ -21,6 +22,7 @@ class ScriptedDialogs : public EditorDialogs {
     int chooseIconLine(const QStringList& lines) override;
     int choosePasteOption() override;
     std::optional<HotSpot> chooseHotSpot(const Plane& canvas, int zoom, int maxIndex) override;
+    bool adjustColours(ColourAdjustment& adjustment) override;
 
     // Scripted answers, used first to last.
     std::deque<PromptAnswer> prompts;
@@ -28,6 +30,8 @@ class ScriptedDialogs : public EditorDialogs {
     std::deque<int> iconLines;
     std::deque<int> pasteOptions;
     std::deque<std::optional<HotSpot>> hotSpots;
+    // A user at "Color Adjustment": moves the spinners, answers true for Ok.
+    std::deque<std::function<bool(ColourAdjustment&)>> colourAdjustments;
 
     // What was asked.
     std::vector<Message> messages;
@@ -37,4 +41,5 @@ class ScriptedDialogs : public EditorDialogs {
     std::vector<QStringList> iconListings;
     int pasteDialogs = 0;
     int hotSpotDialogs = 0;
+    int colourAdjustDialogs = 0;
 };

@@ -76,6 +76,17 @@ void ToolsFixture::mark(int x1, int y1, int x2, int y2) {
     drag(1, {{x1, y1}, {x2, y2}});
 }
 
+void ToolsFixture::expectRedrawnSelection() const {
+    Canvas canvas;
+    canvas.placePreview(doc().size);
+    canvas.compose(doc());
+    const Selection::Rect& r = rect();
+    canvas.stampFloating(doc(), r.Left, r.Top, r.Right, r.Bottom);
+    canvas.drawSelectionRect(r.Left, r.Top, r.Right, r.Bottom);
+    EXPECT_EQ(editor->canvas().PicMain, canvas.PicMain);
+    EXPECT_EQ(editor->canvas().PicIcon, canvas.PicIcon);
+}
+
 void ToolsFixture::expectViews(bool withFloating, bool withMarquee) const {
     Canvas canvas;
     canvas.placePreview(doc().size);

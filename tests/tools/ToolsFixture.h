@@ -50,6 +50,10 @@ class ToolsFixture : public EditorFixture {
     // Canvas and preview as a fresh canvas draws the document, with the
     // floating selection over it and the marquee around it when asked.
     void expectViews(bool withFloating = false, bool withMarquee = false) const;
+    // Canvas and preview as the redraw after an operation on a selection
+    // leaves them: the selection over the document, no grid over it, and the
+    // marquee.
+    void expectRedrawnSelection() const;
 
     std::size_t undoSize() const { return editor->undoRedo().UndoStack.size(); }
     Selection& sel() { return editor->selection(); }

@@ -1,0 +1,123 @@
+#include "operations/Operations.h"
+
+#include "document/IconDocument.h"
+#include "editing/EditContext.h"
+#include "editing/EditTarget.h"
+#include "editing/Selection.h"
+#include "operations/Buttonize.h"
+#include "operations/ColourAdjustment.h"
+#include "operations/ColourTransforms.h"
+#include "operations/ImageTransforms.h"
+#include "operations/OperationDialogs.h"
+
+namespace {
+
+using PlaneChange = void (*)(Plane&);
+
+PlaneChange mirrorFor(ImageAction item) {
+    switch (item) {
+    case ImageAction::FlipHorizontal:
+        return ImageTransforms::flipHorizontal;
+    case ImageAction::FlipVertical:
+        return ImageTransforms::flipVertical;
+    case ImageAction::ReflectLeftInRight:
+        return ImageTransforms::reflectLeftInRight;
+    case ImageAction::ReflectRightInLeft:
+        return ImageTransforms::reflectRightInLeft;
+    case ImageAction::ReflectTopInBottom:
+        return ImageTransforms::reflectTopInBottom;
+    case ImageAction::ReflectBottomInTop:
+        return ImageTransforms::reflectBottomInTop;
+    case ImageAction::RotateLeft:
+    case ImageAction::RotateRight:
+        break;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+void Operations::imageAction(ImageAction item) {
+    if (item == ImageAction::RotateLeft || item == ImageAction::RotateRight) {
+        rotate(item);
+        return;
+    }
+    const PlaneChange mirror = mirrorFor(item);
+    if (!mirror)
+        return;
+    // A flip or reflection keeps the size, so a marked area changes in place.
+    const EditTarget target = targetFor(context_, false);
+    mirror(target.image);
+    mirror(target.mask);
+    finishEdit(context_, target);
+}
+
+void Operations::rotate(ImageAction item) {
+    const EditTarget target = targetFor(context_, true);
+    // A selection turns clockwise whichever item was chosen; only the whole
+    // icon turns anticlockwise. Kept on purpose: it is how the program is
+    // documented to behave, so nobody should "fix" it.
+    const bool clockwise = target.kind != EditTarget::Whole || item == ImageAction::RotateRight;
+    const auto turn =
+        clockwise ? ImageTransforms::rotatedClockwise : ImageTransforms::rotatedAnticlockwise;
+    target.image = turn(target.image);
+    target.mask = turn(target.mask);
+    finishEdit(context_, target);
+}
+
+bool Operations::imageActionEnabled(ImageAction item) const {
+    const Selection& selection = context_.selection();
+    if (!selection.exists())
+        return true;
+    const IconDocument& doc = context_.doc();
+    switch (item) {
+    case ImageAction::ReflectLeftInRight:
+    case ImageAction::ReflectRightInLeft:
+        return doc.PicSelMask.width() % 2 == 0;
+    case ImageAction::ReflectTopInBottom:
+    case ImageAction::ReflectBottomInTop:
+        return doc.PicSelMask.height() % 2 == 0;
+    default:
+        return true;
+    }
+}
+
+void Operations::colorAction(ColorAction item) {
+    if (item == ColorAction::AdjustColors) {
+        adjustColours();
+        return;
+    }
+    if (item != ColorAction::Invert && item != ColorAction::Greyscale)
+        return;
+    const EditTarget target = targetFor(context_, false);
+    if (item == ColorAction::Invert)
+        ColourTransforms::invert(target.image, target.mask);
+    else
+        ColourTransforms::greyscale(target.image, target.mask);
+    finishEdit(context_, target);
+}
+
+void Operations::adjustColours() {
+    // The dialog shows and changes the whole icon, never a selection.
+    context_.commitSelection();
+    IconDocument& doc = context_.doc();
+    ColourAdjustment adjustment(doc.PicImage, doc.PicMask);
+    if (!dialogs_.adjustColours(adjustment))
+        return;
+    adjustment.apply(doc.PicImage);
+    context_.refresh();
+    context_.recordEdit();
+}
+
+void Operations::fxAction(FxAction item) {
+    if (item == FxAction::Buttonize)
+        buttonize();
+}
+
+void Operations::buttonize() {
+    context_.commitSelection();
+    IconDocument& doc = context_.doc();
+    Buttonize::apply(doc.PicImage, doc.PicMask);
+    context_.refresh();
+    context_.recordEdit();
+}
