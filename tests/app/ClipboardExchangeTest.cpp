@@ -91,18 +91,4 @@ TEST_F(ClipboardExchangeTest, TextOnlyClipboardGreysPasteAndTheShortcutPastesNot
     EXPECT_EQ(editor().undoRedo().UndoStack.size(), 1u);
 }
 
-TEST_F(ClipboardExchangeTest, HugePictureShrinksThroughPasteOptionsToTheIcon) {
-    QImage picture(4000, 4000, QImage::Format_RGB32);
-    picture.fill(qRgb(0, 128, 0));
-    QApplication::clipboard()->setImage(picture);
-    dialogs.pasteOptions.push_back(1); // "Shrink To Fit (Keep Aspect)"
-    keys(Qt::Key_V);
-
-    EXPECT_EQ(dialogs.pasteDialogs, 1);
-    ASSERT_TRUE(editor().selection().SelFloating);
-    EXPECT_EQ(editor().doc().PicSelImage.width(), 32);
-    EXPECT_EQ(editor().doc().PicSelImage.height(), 32);
-    EXPECT_EQ(editor().doc().PicSelImage.pixel(31, 31), rgb(0, 128, 0));
-}
-
 } // namespace

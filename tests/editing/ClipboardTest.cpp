@@ -6,21 +6,6 @@ namespace {
 
 class ClipboardTest : public ToolsFixture {};
 
-TEST_F(ClipboardTest, CopyPutsTransparentPixelsOnTheClipboardAsWhite) {
-    paint(0, 0, kRed);
-    paint(2, 0, kBlue, kWhite);
-    recordPainting();
-    mark(0, 0, 36, 12); // icon pixels (0, 0) to (2, 0)
-    editor->editAction(Copy);
-    ASSERT_EQ(clipboard.writes, 1);
-    // An inverting pixel shows white XOR its colour.
-    Plane copied(3, 1, kWhite);
-    copied.setPixel(0, 0, kRed), copied.setPixel(2, 0, rgb(255, 255, 0));
-    EXPECT_EQ(clipboard.picture, copied);
-    EXPECT_TRUE(sel().SelMarked);
-    EXPECT_EQ(undoSize(), 2u);
-}
-
 TEST_F(ClipboardTest, CutThenPasteRoundTripKeepsColoursAndTransparencyAndUndoes) {
     paint(4, 4, kRed);
     paint(5, 4, kGreen);

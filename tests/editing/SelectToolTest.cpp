@@ -4,56 +4,46 @@ namespace {
 
 class SelectToolTest : public ToolsFixture {};
 
-TEST_F(SelectToolTest, ARectangleWithoutAreaIsDiscarded) {
-    const struct {
-        const char* name;
-        int x1, y1, x2, y2;
-    } cases[] = {{"click", 30, 30, 30, 30},
-                 {"within one cell", 25, 25, 34, 34},
-                 {"no height", 30, 30, 80, 35},
-                 {"no width", 30, 30, 35, 80}};
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.name);
-        startWithSize(1);
-        const Plane canvasBefore = editor->canvas().PicMain;
-        mark(c.x1, c.y1, c.x2, c.y2);
-        EXPECT_FALSE(sel().exists());
-        EXPECT_FALSE(editor->tools().select.marking);
-        EXPECT_EQ(std::pair(rect().Left, rect().Right), std::pair(-1, -1));
-        EXPECT_EQ(editor->canvas().PicMain, canvasBefore);
-        EXPECT_EQ(undoSize(), 1u);
-    }
-}
-
+// The right button marks as the left one does. A rectangle without area is
+// no selection.
 TEST_F(SelectToolTest, MarkingSnapsOrdersAndClampsTheCornersAndShowsOnlyTheLatestBox) {
+    const Selection::Rect none;
     const struct {
         const char* name;
-        int x1, y1, x2, y2;
+        int button, x1, y1, x2, y2;
         Selection::Rect rect;
         const char* size;
     } cases[] = {
-        {"forwards", 25, 37, 61, 50, {24, 36, 60, 48}, "03 x 01"},
-        {"backwards", 80, 80, 20, 30, {12, 24, 72, 72}, "05 x 04"},
-        {"past the right and bottom", 300, 310, 500, 600, {300, 300, 384, 384}, "07 x 07"},
-        {"past the left and top", 100, 100, -50, -7, {0, 0, 96, 96}, "08 x 08"},
+        {"forwards", 1, 25, 37, 61, 50, {24, 36, 60, 48}, "03 x 01"},
+        {"backwards, right button", 2, 80, 80, 20, 30, {12, 24, 72, 72}, "05 x 04"},
+        {"past the right and bottom", 1, 300, 310, 500, 600, {300, 300, 384, 384}, "07 x 07"},
+        {"past the left and top", 1, 100, 100, -50, -7, {0, 0, 96, 96}, "08 x 08"},
+        {"within one cell", 1, 25, 25, 34, 34, none, "00 x 00"},
+        {"no height", 1, 30, 30, 80, 35, none, "04 x 00"},
+        {"no width", 1, 30, 30, 35, 80, none, "00 x 04"},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.name);
         startWithSize(1);
         editor->tools().chooseTool(DrawingTools::Select);
-        press(1, c.x1, c.y1);
-        move(1, 200, 150);
-        move(1, c.x2, c.y2);
+        press(c.button, c.x1, c.y1);
+        move(c.button, 200, 150);
+        move(c.button, c.x2, c.y2);
         EXPECT_TRUE(editor->tools().select.marking);
         EXPECT_EQ(editor->readoutToXY(), c.size);
         expectViews(false, true);
-        release(1, c.x2, c.y2);
+        release(c.button, c.x2, c.y2);
+        EXPECT_FALSE(editor->tools().select.marking);
         EXPECT_EQ(editor->readoutToXY(), "");
-        ASSERT_TRUE(sel().SelMarked);
         EXPECT_EQ(std::tuple(rect().Left, rect().Top, rect().Right, rect().Bottom),
                   std::tuple(c.rect.Left, c.rect.Top, c.rect.Right, c.rect.Bottom));
-        EXPECT_EQ(doc().PicSelMask.width(), (c.rect.Right - c.rect.Left) / 12);
-        EXPECT_EQ(doc().PicSelImage.height(), (c.rect.Bottom - c.rect.Top) / 12);
+        EXPECT_EQ(sel().SelMarked, c.rect.Left >= 0);
+        EXPECT_EQ(undoSize(), 1u);
+        expectViews(false, sel().SelMarked);
+        if (sel().SelMarked) {
+            EXPECT_EQ(doc().PicSelMask.width(), (c.rect.Right - c.rect.Left) / 12);
+            EXPECT_EQ(doc().PicSelImage.height(), (c.rect.Bottom - c.rect.Top) / 12);
+        }
     }
 }
 
@@ -91,6 +81,34 @@ TEST_F(SelectToolTest, MovingAMarkedSelectionLiftsItAndCommitsOnce) {
     EXPECT_EQ(std::pair(doc().PicImage, doc().PicMask), std::pair(image, mask));
 }
 
+// SelRect's right and bottom edges are the corners of the cells just past the
+// marked ones, and they count as inside: a press there moves the selection.
+TEST_F(SelectToolTest, AMoveStartsOnTheRightAndBottomEdgesToo) {
+    const struct {
+        const char* name;
+        int x, y;
+        bool moves;
+    } cases[] = {
+        {"right edge", 50, 30, true},
+        {"bottom edge", 30, 50, true},
+        {"bottom-right corner", 59, 59, true},
+        {"a cell past the right", 60, 30, false},
+        {"a cell past the bottom", 30, 60, false},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.name);
+        startWithSize(1);
+        paint(2, 2, kRed);
+        recordPainting();
+        mark(24, 24, 48, 48); // icon pixels (2, 2) to (3, 3)
+        press(1, c.x, c.y);
+        EXPECT_EQ(sel().SelFloating, c.moves);
+        EXPECT_EQ(editor->tools().select.marking, !c.moves);
+        EXPECT_EQ(doc().isTransparent(2, 2), c.moves);
+        release(1, c.x, c.y);
+    }
+}
+
 TEST_F(SelectToolTest, AFloatingSelectionMovesAgainWithoutClearingWhatLiesUnderIt) {
     paint(5, 5, kGreen);
     recordPainting();
@@ -102,28 +120,11 @@ TEST_F(SelectToolTest, AFloatingSelectionMovesAgainWithoutClearingWhatLiesUnderI
     mark(12, 12, 60, 60);
     EXPECT_EQ(rect().Left, 48);
     EXPECT_EQ(pixelAt(5, 5), std::make_pair(kGreen, kBlack));
-    mark(50, 50, 40, 40);
+    drag(2, {{50, 50}, {40, 40}}); // the right button moves it as well
     expectViews(true, true);
     editor->editAction(Deselect);
     expectPicture("r../.../..g", 3, 3, 'T');
     EXPECT_EQ(undoSize(), 3u);
-}
-
-TEST_F(SelectToolTest, TheRightButtonMarksAndMovesTooAndOthersDoNothing) {
-    paint(2, 2, kRed);
-    recordPainting();
-    editor->tools().chooseTool(DrawingTools::Select);
-    move(1, 100, 100); // no press: nothing happens
-    release(1, 100, 100);
-    drag(3, {{25, 25}, {61, 50}});
-    EXPECT_FALSE(sel().exists());
-    drag(2, {{25, 25}, {61, 50}});
-    ASSERT_TRUE(sel().SelMarked);
-    EXPECT_EQ(std::tuple(rect().Left, rect().Right, rect().Bottom), std::tuple(24, 60, 48));
-    drag(2, {{30, 30}, {54, 42}}); // two cells right, one down
-    EXPECT_TRUE(sel().SelFloating);
-    EXPECT_EQ(std::tuple(rect().Left, rect().Top), std::tuple(48, 36));
-    expectViews(true, true);
 }
 
 } // namespace

@@ -125,10 +125,18 @@ TEST_F(UndoRedoTest, NewStartsAFreshHistoryAtTheNewSize) {
     EXPECT_EQ(undoSize(), 1u);
     EXPECT_EQ(editor->undoRedo().UndoCounter, 1);
     EXPECT_EQ(enabling(), "--");
-    // The shortcut with nothing to undo leaves the 16 x 16 icon as it is.
+    // The shortcut with nothing to undo leaves the 16 x 16 icon as it is,
+    // but moves its one entry to the redo list, and Redo brings it back.
     const auto blank = state();
     editor->undo();
     EXPECT_EQ(state(), blank);
+    EXPECT_EQ(undoSize(), 0u);
+    EXPECT_EQ(editor->undoRedo().RedoStack.size(), 1u);
+    EXPECT_EQ(enabling(), "-+");
+    editor->redo();
+    EXPECT_EQ(state(), blank);
+    EXPECT_EQ(undoSize(), 1u);
+    EXPECT_EQ(enabling(), "--");
 }
 
 } // namespace

@@ -36,6 +36,12 @@ TEST_F(FloodToolTest, FillsThe4ConnectedRegionSharingMaskAndColour) {
         release(c.button, at(c.x), at(c.y));
         EXPECT_EQ(editor->undoRedo().UndoStack.size(), 2u);
     }
+    // On a 48 x 48 icon the region runs to the last pixel, (47, 47).
+    startWithSize(2);
+    editor->tools().chooseTool(DrawingTools::Flood);
+    setColours(kBlue, kRed);
+    click(1, 47, 47);
+    expectPicture(".", 0, 0, 'b');
     // The closing grid line lies past the last pixel: nothing to fill.
     editor->doc().modified = false;
     press(1, 384, 384);
