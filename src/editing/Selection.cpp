@@ -8,6 +8,11 @@
 #include "platform/Raster.h"
 #include "platform/Services.h"
 
+bool Selection::emptyFloating() const {
+    // An empty clipboard pasted: nothing to outline.
+    return SelFloating && context_.doc().PicSelMask.isEmpty();
+}
+
 int Selection::iconLeft() const {
     return SelRect.Left / context_.doc().zoom;
 }
@@ -36,7 +41,8 @@ void Selection::BeginMove() {
 }
 
 void Selection::EndSelectionMark() {
-    drawMarquee();
+    if (!emptyFloating())
+        drawMarquee();
     SelUnchanged = SelMarked && !MarkedChanged;
     MarkedChanged = false;
     SelMarked = false;
@@ -154,16 +160,14 @@ void Selection::PlaceFloating() {
     const IconDocument& doc = context_.doc();
     SelRect = Rect{0, 0, doc.zoom * doc.PicSelMask.width(), doc.zoom * doc.PicSelMask.height()};
     context_.canvas().drawFloating(doc, SelRect.Left, SelRect.Top, SelRect.Right, SelRect.Bottom);
-    drawMarquee();
     // Floating only after the tool choice, whose commit must find nothing.
     context_.chooseSelectTool();
     SelFloating = true;
+    if (!emptyFloating())
+        drawMarquee();
 }
 
 void Selection::drawMarquee() {
-    // An empty selection (an empty clipboard pasted) has no outline.
-    if (SelRect.Left == SelRect.Right || SelRect.Top == SelRect.Bottom)
-        return;
     context_.canvas().drawSelectionRect(SelRect.Left, SelRect.Top, SelRect.Right, SelRect.Bottom);
 }
 

@@ -22,6 +22,8 @@ class Selection {
     // SelRect's top-left corner in icon pixels.
     int iconLeft() const;
     int iconTop() const;
+    // A floating selection without pixels, which has no outline.
+    bool emptyFloating() const;
 
     // Copies the SelRect area of both document planes into the selection
     // planes.
