@@ -291,6 +291,7 @@ void frmMain::startUp(const QString& commandLine) {
 
 void frmMain::syncFromCore() {
     const Canvas& canvas = editor_.canvas();
+    PicMain->setCellSize(editor_.doc().zoom);
     PicMain->setPlane(canvas.PicMain);
     PicIcon->setPlane(canvas.PicIcon);
     PicIcon->move(canvas.previewLeft, canvas.previewTop);

@@ -7,6 +7,8 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <cmath>
+#include <vector>
 
 namespace {
 
@@ -29,6 +31,23 @@ QRect changedArea(const QImage& before, const QImage& after) {
     return right < 0 ? QRect() : QRect(QPoint(left, top), QPoint(right, bottom));
 }
 
+// Where each device pixel along an axis of `logical` pixels samples, for
+// cells `cell` pixels wide that take `span` device pixels: the cell's first
+// pixel takes `line` of them, the others share the rest evenly.
+std::vector<int> cellSamples(int logical, int cell, int span, int line) {
+    const int device = static_cast<int>(std::ceil(logical * double(span) / cell));
+    std::vector<int> samples(static_cast<std::size_t>(device));
+    for (int d = 0; d < device; ++d) {
+        const int offset = d % span;
+        // Sampled at the device pixel's centre, so the pixels that must take
+        // two device pixels fall inside the cell, not beside its grid line.
+        const int inCell =
+            offset < line ? 0 : 1 + (2 * (offset - line) + 1) * (cell - 1) / (2 * (span - line));
+        samples[static_cast<std::size_t>(d)] = std::min(d / span * cell + inCell, logical - 1);
+    }
+    return samples;
+}
+
 } // namespace
 
 PictureBox::PictureBox(const QString& name, QWidget* parent) : QWidget(parent) {
@@ -40,12 +59,14 @@ void PictureBox::setPlane(const Plane& plane) {
     QImage next = PlaneImage::toImage(plane);
     if (next.size() != image_.size()) {
         image_ = std::move(next);
+        deviceScale_ = 0;
         setFixedSize(image_.size());
         update();
         return;
     }
     const QRect changed = changedArea(image_, next);
     image_ = std::move(next);
+    deviceScale_ = 0;
     if (!changed.isNull())
         update(changed);
 }
@@ -65,8 +86,42 @@ int PictureBox::buttonSum(Qt::MouseButtons buttons) {
     return (buttons & Qt::LeftButton ? 1 : 0) + (buttons & Qt::RightButton ? 2 : 0);
 }
 
+void PictureBox::setCellSize(int cell) {
+    if (cell == cell_)
+        return;
+    cell_ = cell;
+    deviceScale_ = 0;
+    update();
+}
+
+const QImage& PictureBox::deviceImage(qreal scale) {
+    if (scale == deviceScale_)
+        return deviceImage_;
+    const int span = qRound(cell_ * scale);
+    const int line = std::max(1, static_cast<int>(scale));
+    const std::vector<int> xs = cellSamples(image_.width(), cell_, span, line);
+    const std::vector<int> ys = cellSamples(image_.height(), cell_, span, line);
+    deviceImage_ =
+        QImage(static_cast<int>(xs.size()), static_cast<int>(ys.size()), QImage::Format_RGB32);
+    for (std::size_t y = 0; y < ys.size(); ++y) {
+        auto* row = reinterpret_cast<QRgb*>(deviceImage_.scanLine(static_cast<int>(y)));
+        const auto* source = reinterpret_cast<const QRgb*>(image_.constScanLine(ys[y]));
+        for (std::size_t x = 0; x < xs.size(); ++x)
+            row[x] = source[xs[x]];
+    }
+    deviceImage_.setDevicePixelRatio(scale);
+    deviceScale_ = scale;
+    return deviceImage_;
+}
+
 void PictureBox::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
+    const qreal scale = devicePixelRatioF();
+    const qreal span = cell_ * scale;
+    if (cell_ > 1 && scale != 1.0 && std::abs(span - std::round(span)) < 1e-9) {
+        painter.drawImage(QPointF(0, 0), deviceImage(scale));
+        return;
+    }
     painter.drawImage(event->rect(), image_, event->rect());
 }
 

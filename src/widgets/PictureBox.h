@@ -19,11 +19,16 @@ class PictureBox : public QWidget {
     void setPlane(const Plane& plane);
     const QImage& image() const { return image_; }
 
-    // While a button is down, points are held inside the picture, as if the
-    // pointer were confined to it (the pickers).
     // While a button is down, points outside the picture are reported at its
     // nearest edge and the pointer is held inside it.
     void setConfined(bool confined) { confined_ = confined; }
+
+    // A picture of square cells `cell` pixels wide (the canvas at its zoom).
+    // At a screen scale that makes a cell a whole number of device pixels,
+    // every cell is drawn the same width: its first row and column (the grid
+    // line) as a whole pixel scaled, the rest shared evenly. 0, or any other
+    // scale, draws the picture as Qt scales any image.
+    void setCellSize(int cell);
 
     static int buttonNumber(Qt::MouseButton button);
     static int buttonSum(Qt::MouseButtons buttons);
@@ -42,6 +47,11 @@ class PictureBox : public QWidget {
   private:
     QPointF pointOf(const QMouseEvent* event, bool buttonHeld) const;
 
+    const QImage& deviceImage(qreal scale);
+
     QImage image_;
     bool confined_ = false;
+    int cell_ = 0;
+    QImage deviceImage_; // image_ laid out cell by cell at the screen's scale
+    qreal deviceScale_ = 0;
 };
