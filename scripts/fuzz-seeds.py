@@ -58,8 +58,8 @@ for name, args in {
     'fits': (0, False, 0, 4, 4, WHITE + RED + BLUE + b'\xfe\xff\xff'),
     'fits-opaque': (2, True, 0, 48, 3, WHITE + RED),
     'wide-fit': (0, False, 0, 20, 10, RED * 10 + BLUE * 10),
-    'wide-keep-aspect': (0, True, 1, 20, 10, RED * 10 + BLUE * 10),
-    'tall-keep-aspect': (1, False, 1, 1, 33, WHITE + RED),
+    'wide-shrunk-in-proportion': (0, True, 1, 20, 10, RED * 10 + BLUE * 10),
+    'tall-shrunk-in-proportion': (1, False, 1, 1, 33, WHITE + RED),
     'long-strip': (1, False, 1, 4000, 2, RED + WHITE + BLUE),
     'cancelled': (1, False, -1, 40, 40, BLUE),
 }.items():

@@ -3,8 +3,6 @@
 #   platform; document; canvas; editing, settings; tools, operations, fileio;
 #   session; the widget kit, which serves the main window and the dialogs
 #   alike and so must not lean on app/.
-# The windows and dialogs that live beside their subsystem (Frm*, Qt*) belong
-# to the shell and may also use the widget kit.
 set(allowed_platform platform)
 set(allowed_document platform document)
 set(allowed_canvas ${allowed_document} canvas)
@@ -22,9 +20,6 @@ foreach(folder platform document canvas editing settings tools operations fileio
   foreach(path ${files})
     get_filename_component(name ${path} NAME)
     set(allowed ${allowed_${folder}})
-    if(name MATCHES "^(Frm|Qt)")
-      list(APPEND allowed widgets)
-    endif()
     file(STRINGS ${path} includes REGEX "^#include \"[a-z]+/")
     foreach(line ${includes})
       string(REGEX REPLACE "^#include \"([a-z]+)/.*" "\\1" target ${line})

@@ -1,9 +1,9 @@
 #include "app/QtUserDialogs.h"
 
-#include "editing/FrmPaste.h"
-#include "fileio/FrmHotSpot.h"
-#include "fileio/FrmMultiIconDialog.h"
-#include "operations/FrmColAdj.h"
+#include "dialogs/FrmPaste.h"
+#include "dialogs/FrmHotSpot.h"
+#include "dialogs/FrmMultiIconDialog.h"
+#include "dialogs/FrmColAdj.h"
 
 #include <QFileDialog>
 #include <QFileInfo>

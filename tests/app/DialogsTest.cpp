@@ -1,6 +1,6 @@
-#include "editing/FrmPaste.h"
-#include "fileio/FrmHotSpot.h"
-#include "fileio/FrmMultiIconDialog.h"
+#include "dialogs/FrmPaste.h"
+#include "dialogs/FrmHotSpot.h"
+#include "dialogs/FrmMultiIconDialog.h"
 #include "widgets/PictureBox.h"
 
 #include <QGroupBox>

@@ -1,4 +1,4 @@
-#include "operations/FrmColAdj.h"
+#include "dialogs/FrmColAdj.h"
 #include "app/MainWindowFixture.h"
 #include "widgets/PictureBox.h"
 

@@ -1,4 +1,4 @@
-#include "fileio/FrmHotSpot.h"
+#include "dialogs/FrmHotSpot.h"
 
 #include "platform/Raster.h"
 #include "widgets/Edges.h"

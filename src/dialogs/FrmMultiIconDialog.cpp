@@ -1,4 +1,4 @@
-#include "fileio/FrmMultiIconDialog.h"
+#include "dialogs/FrmMultiIconDialog.h"
 
 #include "widgets/OkCancelButtons.h"
 #include "widgets/WindowPlacement.h"

@@ -1,4 +1,4 @@
-#include "editing/FrmPaste.h"
+#include "dialogs/FrmPaste.h"
 
 #include "widgets/OkCancelButtons.h"
 #include "widgets/WindowPlacement.h"
