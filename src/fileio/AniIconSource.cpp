@@ -111,3 +111,14 @@ IconLoadResult AniIconSource::image(int index) const {
     const Span& frame = frames_[frameOf(index)];
     return IcoIconSource(bytes_.mid(frame.offset, frame.length)).image(0);
 }
+
+std::optional<QByteArray> AniIconSource::storedFile(int index) const {
+    if (index < 0 || index >= count_)
+        return std::nullopt;
+    const Span& frame = frames_[frameOf(index)];
+    return bytes_.mid(frame.offset, frame.length);
+}
+
+QString AniIconSource::name(int index) const {
+    return QString::number(index);
+}

@@ -20,6 +20,9 @@ class AniIconSource : public IconSource {
 
     int count() const override;
     IconLoadResult image(int index) const override;
+    // Each step's frame is an icon or cursor file of its own.
+    std::optional<QByteArray> storedFile(int index) const override;
+    QString name(int index) const override;
 
   private:
     struct Span {

@@ -28,3 +28,9 @@ IconLoadResult IcoIconSource::image(int index) const {
     }
     return ExtractedImage::fromGroup(ByteView(bytes_), members_);
 }
+
+std::optional<QByteArray> IcoIconSource::storedFile(int index) const {
+    if (index != 0 || members_.empty())
+        return std::nullopt;
+    return bytes_;
+}

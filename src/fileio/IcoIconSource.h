@@ -17,6 +17,7 @@ class IcoIconSource : public IconSource {
 
     int count() const override;
     IconLoadResult image(int index) const override;
+    std::optional<QByteArray> storedFile(int index) const override;
 
   private:
     QByteArray bytes_;

@@ -1,5 +1,7 @@
 #include "fileio/IconGroup.h"
 
+#include "fileio/ByteWriter.h"
+
 #include <cstdlib>
 
 namespace {
@@ -59,4 +61,28 @@ int IconGroup::pick(const std::vector<GroupMember>& members) {
         if (best < 0 || better(members[i], members[best]))
             best = i;
     return best;
+}
+
+std::optional<QByteArray> IconGroup::toFile(const QByteArray& bytes, qint64 offset, int entryBytes,
+                                            const std::vector<GroupMember>& members) {
+    const ByteView in(bytes);
+    const qint64 count = static_cast<qint64>(members.size());
+    if (!in.contains(offset, 6 + entryBytes * count))
+        return std::nullopt;
+    QByteArray out = bytes.mid(offset, 4);
+    ByteWriter w(out);
+    w.u16(static_cast<quint32>(count));
+    qint64 imageAt = 6 + kFileEntryBytes * count;
+    for (qint64 i = 0; i < count; ++i) {
+        const GroupMember& m = members[i];
+        if (!in.contains(m.offset, m.length))
+            return std::nullopt;
+        out += bytes.mid(offset + 6 + entryBytes * i, 8);
+        w.u32(static_cast<quint32>(m.length));
+        w.u32(static_cast<quint32>(imageAt));
+        imageAt += m.length;
+    }
+    for (const GroupMember& m : members)
+        out += bytes.mid(m.offset, m.length);
+    return out;
 }

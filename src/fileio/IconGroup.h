@@ -36,4 +36,12 @@ class IconGroup {
     // without one, the nearest size (the larger of two equally near), again
     // at its highest depth. -1 for an empty group.
     static int pick(const std::vector<GroupMember>& members);
+
+    // The directory at offset written as an .ico or .cur file's around the
+    // members' images: the header with the members' count, each entry's
+    // first 8 bytes as stored, then its image's length and offset in the new
+    // file, then the images copied byte for byte. The members' offset and
+    // length say where each image lies; nullopt when one lies outside bytes.
+    static std::optional<QByteArray> toFile(const QByteArray& bytes, qint64 offset, int entryBytes,
+                                            const std::vector<GroupMember>& members);
 };

@@ -2,6 +2,8 @@
 
 #include "fileio/ExtractedImage.h"
 
+#include <algorithm>
+
 namespace {
 
 constexpr quint32 kMzSignature = 0x5A4D; // "MZ"
@@ -13,6 +15,20 @@ constexpr qint64 kTypeBytes = 8;
 constexpr qint64 kNameBytes = 12;
 // Beyond this a shifted 16-bit offset leaves any file this program reads.
 constexpr int kLargestShift = 24;
+
+// A resource's ID in decimal, or the counted string its name points to (an
+// offset from the resource table's start).
+QString nameOf(const ByteView& in, qint64 table, quint32 id) {
+    if (id & kIntegerId)
+        return QString::number(id & ~kIntegerId);
+    const qint64 at = table + id;
+    if (!in.contains(at, 1) || !in.contains(at + 1, in.u8(at)))
+        return QString::number(id);
+    QString text;
+    for (qint64 i = 0; i < in.u8(at); ++i)
+        text += QChar(in.u8(at + 1 + i));
+    return text;
+}
 
 } // namespace
 
@@ -62,9 +78,10 @@ ReadFault NeIconSource::parse() {
             const Span span{static_cast<qint64>(in.u16(name)) << shift,
                             static_cast<qint64>(in.u16(name + 2)) << shift};
             const quint32 id = in.u16(name + 6);
-            if (type == kGroupIcon)
+            if (type == kGroupIcon) {
                 groups_.push_back(span);
-            else if (type == kIcon && (id & kIntegerId))
+                groupNames_.push_back(nameOf(in, table, id));
+            } else if (type == kIcon && (id & kIntegerId))
                 icons_.emplace(id & ~kIntegerId, span);
         }
         at = first + kNameBytes * names;
@@ -91,4 +108,28 @@ IconLoadResult NeIconSource::image(int index) const {
     chosen.offset = icon->second.offset;
     chosen.length = icon->second.length;
     return ExtractedImage::decode(in, chosen);
+}
+
+std::optional<QByteArray> NeIconSource::storedFile(int index) const {
+    if (index < 0 || index >= count())
+        return std::nullopt;
+    const ByteView in(bytes_);
+    const qint64 at = groups_[index].offset;
+    auto members = IconGroup::read(in, at, IconGroup::kResourceEntryBytes);
+    if (!members)
+        return std::nullopt;
+    for (GroupMember& m : *members) {
+        const auto icon = icons_.find(m.reference);
+        if (icon == icons_.end())
+            return std::nullopt;
+        // The table gives lengths in whole alignment units; the entry's own
+        // length drops the padding, unless it claims more than is there.
+        m.offset = icon->second.offset;
+        m.length = std::min(m.length, icon->second.length);
+    }
+    return IconGroup::toFile(bytes_, at, IconGroup::kResourceEntryBytes, *members);
+}
+
+QString NeIconSource::name(int index) const {
+    return index >= 0 && index < count() ? groupNames_[index] : QString();
 }

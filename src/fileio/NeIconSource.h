@@ -21,6 +21,8 @@ class NeIconSource : public IconSource {
 
     int count() const override;
     IconLoadResult image(int index) const override;
+    std::optional<QByteArray> storedFile(int index) const override;
+    QString name(int index) const override;
 
   private:
     struct Span {
@@ -32,5 +34,6 @@ class NeIconSource : public IconSource {
 
     QByteArray bytes_;
     std::vector<Span> groups_;
+    std::vector<QString> groupNames_;
     std::map<quint32, Span> icons_;
 };

@@ -124,9 +124,10 @@ ReadFault PeIconSource::readResources(qint64 root) {
             if (const ReadFault fault = firstLanguage(root, in.u32(nameEntry + 4), data);
                 fault != ReadFault::None)
                 return fault;
-            if (type == kGroupIcon)
+            if (type == kGroupIcon) {
                 groups_.push_back(data);
-            else if (!(name & kNamed))
+                groupNames_.push_back(nameOf(root, name));
+            } else if (!(name & kNamed))
                 icons_.emplace(name, data);
         }
     }
@@ -153,6 +154,20 @@ ReadFault PeIconSource::firstLanguage(qint64 root, quint32 nameEntryValue, Data&
     return ReadFault::None;
 }
 
+QString PeIconSource::nameOf(qint64 root, quint32 name) const {
+    if (!(name & kNamed))
+        return QString::number(name);
+    // A counted UTF-16 string; one cut short names the group by its offset.
+    const ByteView in(bytes_);
+    const qint64 at = root + (name & ~kNamed);
+    if (!in.contains(at, 2) || !in.contains(at + 2, 2LL * in.u16(at)))
+        return QString::number(name & ~kNamed);
+    QString text;
+    for (qint64 i = 0; i < in.u16(at); ++i)
+        text += QChar(in.u16(at + 2 + 2 * i));
+    return text;
+}
+
 qint64 PeIconSource::fileOffset(quint32 address, quint32 size) const {
     for (const Section& s : sections_) {
         const qint64 into = static_cast<qint64>(address) - s.address;
@@ -164,6 +179,37 @@ qint64 PeIconSource::fileOffset(quint32 address, quint32 size) const {
 
 int PeIconSource::count() const {
     return static_cast<int>(groups_.size());
+}
+
+std::optional<std::vector<GroupMember>> PeIconSource::members(int index,
+                                                              qint64& groupOffset) const {
+    if (index < 0 || index >= count())
+        return std::nullopt;
+    const Data& group = groups_[index];
+    groupOffset = fileOffset(group.address, group.size);
+    auto members = IconGroup::read(ByteView(bytes_), groupOffset, IconGroup::kResourceEntryBytes);
+    if (groupOffset < 0 || !members)
+        return std::nullopt;
+    for (GroupMember& m : *members) {
+        const auto icon = icons_.find(m.reference);
+        if (icon == icons_.end())
+            return std::nullopt;
+        m.offset = fileOffset(icon->second.address, icon->second.size);
+        m.length = icon->second.size;
+    }
+    return members;
+}
+
+std::optional<QByteArray> PeIconSource::storedFile(int index) const {
+    qint64 at = -1;
+    const auto found = members(index, at);
+    if (!found)
+        return std::nullopt;
+    return IconGroup::toFile(bytes_, at, IconGroup::kResourceEntryBytes, *found);
+}
+
+QString PeIconSource::name(int index) const {
+    return index >= 0 && index < count() ? groupNames_[index] : QString();
 }
 
 IconLoadResult PeIconSource::image(int index) const {

@@ -22,6 +22,8 @@ class PeIconSource : public IconSource {
 
     int count() const override;
     IconLoadResult image(int index) const override;
+    std::optional<QByteArray> storedFile(int index) const override;
+    QString name(int index) const override;
 
   private:
     struct Section {
@@ -36,11 +38,16 @@ class PeIconSource : public IconSource {
     ReadFault readResources(qint64 root);
     // The data entry of one name under a type directory: its first language.
     ReadFault firstLanguage(qint64 root, quint32 nameEntryValue, Data& data) const;
+    // A resource's name: its ID in decimal, or the string it points to.
+    QString nameOf(qint64 root, quint32 name) const;
+    // The group's members with their images found, or nullopt.
+    std::optional<std::vector<GroupMember>> members(int index, qint64& groupOffset) const;
     // File offset of [address, address + size) in the image, or -1.
     qint64 fileOffset(quint32 address, quint32 size) const;
 
     QByteArray bytes_;
     std::vector<Section> sections_;
     std::vector<Data> groups_;
+    std::vector<QString> groupNames_;
     std::map<quint32, Data> icons_;
 };
