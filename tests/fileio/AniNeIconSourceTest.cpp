@@ -1,8 +1,8 @@
 #include "ExtractFixtures.h"
 #include "IcoBuilder.h"
+#include "fileio/NeLibraryWriter.h"
 #include "support/AniWriter.h"
 #include "support/MultiIcon.h"
-#include "support/NeWriter.h"
 
 #include "fileio/IconSourceOpener.h"
 
@@ -64,14 +64,14 @@ TEST(NeIconSourceTest, GroupsInTableOrderFromShiftedOffsets) {
     const std::vector<QByteArray> icons{
         joinIcons({patternIcon(16, 5), shown[0], patternIcon(32, 5, 2)}),
         joinIcons({patternIcon(48, 6, 2), patternIcon(32, 6, 2), shown[1]}), joinIcons({shown[2]})};
-    const QByteArray ne = NeWriter{icons, 4}.bytes();
-    const qint64 table = NeWriter::kTableOffset;
+    const QByteArray ne = NeLibraryWriter::write(icons, "ICONS", 4).value();
+    const qint64 table = NeLibraryWriter::kTableOffset;
     const auto malformed = static_cast<int>(ReadFault::Malformed);
     const auto outOfBounds = static_cast<int>(ReadFault::OutOfBounds);
     const std::tuple<const char*, QByteArray, std::vector<int>> cases[] = {
         {"shift 4", ne, {0, 1, 2}},
-        {"shift 0", NeWriter{icons, 0}.bytes(), {0, 1, 2}},
-        {"shift 9", NeWriter{icons, 9}.bytes(), {0, 1, 2}},
+        {"shift 0", NeLibraryWriter::write(icons, "ICONS", 0).value(), {0, 1, 2}},
+        {"shift 9", NeLibraryWriter::write(icons, "ICONS", 9).value(), {0, 1, 2}},
         {"shift 25", QByteArray(ne).replace(table, 2, le(25, 2)), {-1, malformed}},
         {"cut in the table", ne.left(table + 12), {-1, outOfBounds}},
         {"no end of table", ne.left(table + 2 + 8 + 12 * 7), {-1, outOfBounds}},
