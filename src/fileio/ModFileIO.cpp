@@ -39,7 +39,10 @@ std::optional<QByteArray> readWhole(const QString& path, ReadFault* fault, QByte
             *head = file.read(kHeadBytes);
         return fail(ReadFault::TooLarge);
     }
-    QByteArray bytes = file.read(IconLayout::kMaxFileBytes);
+    // Read at the size the file gives: asking for the limit would make a
+    // buffer of the limit for every file. A file that tells no size (some
+    // system files) is read up to the limit.
+    QByteArray bytes = file.read(file.size() > 0 ? file.size() : IconLayout::kMaxFileBytes);
     if (file.error() != QFileDevice::NoError)
         return fail(ReadFault::Unreadable);
     if (fault)
