@@ -1,0 +1,65 @@
+#include "cli/ExtractCommand.h"
+
+#include "fileio/IcoFile.h"
+#include "fileio/IconSourceOpener.h"
+#include "fileio/ModFileIO.h"
+#include "fileio/ModPalette.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+namespace {
+
+// A resource name may hold characters no file name can.
+QString fileNamePart(QString name) {
+    for (QChar& c : name)
+        if (c == QLatin1Char('/') || c == QLatin1Char('\\') || c.unicode() < 0x20)
+            c = QLatin1Char('_');
+    return name;
+}
+
+} // namespace
+
+int ExtractCommand::run(const CommandLine& line, CliReport& report) {
+    const auto size = line.value("--size");
+    if (size && *size != "32")
+        return report.usage(QStringLiteral("extract --size takes only 32, the size Extract gives"));
+    if (line.files.isEmpty())
+        return report.usage(QStringLiteral("extract needs at least one file"));
+    const QDir folder(line.value("-o").value_or(QStringLiteral(".")));
+    if (!folder.exists() && !QDir().mkpath(folder.path())) {
+        report.fail(QStringLiteral("Unable to create the folder ") + folder.path());
+        return report.status();
+    }
+
+    for (const QString& path : line.files) {
+        const auto opened = IconSourceOpener::openFile(path);
+        if (!opened.source) {
+            report.failToRead(path, opened.fault);
+            continue;
+        }
+        const QString base = QFileInfo(path).completeBaseName() + QLatin1Char('_');
+        for (int icon = 0; icon < opened.source->count(); ++icon) {
+            const QString name = opened.source->name(icon);
+            const QString stem = folder.filePath(base + fileNamePart(name.isEmpty() ? "1" : name));
+            QByteArray bytes;
+            QString suffix = QStringLiteral(".ico");
+            if (size) {
+                const IconLoadResult shown = opened.source->image(icon);
+                if (shown.ok())
+                    bytes = IcoFile::iconBytes(shown.mask, shown.image,
+                                               ModPalette::countColours(shown.image, true));
+            } else if (const auto stored = opened.source->storedFile(icon)) {
+                bytes = *stored;
+                if (ByteView(bytes).contains(2, 2) && ByteView(bytes).u16(2) == 2)
+                    suffix = QStringLiteral(".cur");
+            }
+            if (bytes.isEmpty())
+                report.fail(QStringLiteral("An error occurred while loading ") + path + " (" +
+                            (name.isEmpty() ? QStringLiteral("1") : name) + ")");
+            else if (!ModFileIO::saveFile(stem + suffix, bytes))
+                report.fail(QStringLiteral("Unable to save the file ") + stem + suffix);
+        }
+    }
+    return report.status();
+}

@@ -1,0 +1,6 @@
+#pragma once
+
+#include <QString>
+
+// The text brevik-cli --help prints.
+QString cliUsage();

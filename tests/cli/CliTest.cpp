@@ -1,0 +1,327 @@
+#include "fileio/ExtractFixtures.h"
+#include "support/AniWriter.h"
+#include "support/MultiIcon.h"
+#include "support/PeLibraryBuilder.h"
+
+#include "fileio/BmpFile.h"
+#include "fileio/IconSourceOpener.h"
+#include "fileio/ModPalette.h"
+
+#include <QDir>
+#include <QFile>
+#include <QImage>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+// Readable failures.
+inline void PrintTo(const QString& text, std::ostream* os) {
+    *os << text.toStdString();
+}
+
+namespace {
+
+struct Outcome {
+    int code = -1;
+    QString out, err;
+};
+
+Outcome run(const QString& program, const QStringList& arguments) {
+    QProcess process;
+    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+    // The CLI must need neither a display nor a platform plugin.
+    for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+        env.remove(name);
+    process.setProcessEnvironment(env);
+    process.start(program, arguments);
+    process.waitForFinished(60000);
+    return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
+            QString::fromUtf8(process.readAllStandardOutput()),
+            QString::fromUtf8(process.readAllStandardError())};
+}
+
+Outcome cli(const QStringList& arguments) {
+    return run(BREVIK_CLI, arguments);
+}
+
+QByteArray read(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void write(const QString& path, const QByteArray& bytes) {
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(bytes);
+}
+
+// icotool, an independent reader, lists the file without complaint.
+void expectIcotoolReads(const QString& path) {
+    const Outcome listed = run("icotool", {"-l", path});
+    EXPECT_EQ(listed.code, 0) << path.toStdString() << listed.err.toStdString();
+    EXPECT_TRUE(listed.err.isEmpty()) << listed.err.toStdString();
+    EXPECT_FALSE(listed.out.isEmpty()) << path.toStdString();
+}
+
+// The files of a folder, by name.
+std::map<QString, QByteArray> filesIn(const QString& folder) {
+    std::map<QString, QByteArray> files;
+    for (const QString& name : QDir(folder).entryList(QDir::Files))
+        files[name] = read(QDir(folder).filePath(name));
+    return files;
+}
+
+class CliTest : public ::testing::Test {
+  protected:
+    QString path(const QString& name) const { return dir.filePath(name); }
+    QString make(const QString& name, const QByteArray& bytes) const {
+        write(path(name), bytes);
+        return path(name);
+    }
+    QTemporaryDir dir;
+};
+
+TEST_F(CliTest, ExitCodesAndOneLineOnStderr) {
+    const QString good = make("good.ico", patternIcon(16, 1));
+    const QString corrupt = make("corrupt.ico", QByteArray("\0\0\1\0\1\0garbage", 14));
+    const QString missing = path("missing.ico");
+    const struct {
+        QStringList arguments;
+        int code;
+        QString stderrLine; // empty: nothing on stderr
+    } cases[] = {
+        {{"--help"}, 0, ""},
+        {{"convert", "--help"}, 0, ""},
+        {{}, 2, "brevik-cli: no verb given (see brevik-cli --help)"},
+        {{"frobnicate", good}, 2, "brevik-cli: unknown verb frobnicate (see brevik-cli --help)"},
+        {{"info", "--bogus", good},
+         2,
+         "brevik-cli: unknown option --bogus (see brevik-cli --help)"},
+        {{"info"}, 2, "brevik-cli: info needs at least one file (see brevik-cli --help)"},
+        {{"convert", good},
+         2,
+         "brevik-cli: convert takes one input and one output file (see brevik-cli --help)"},
+        {{"convert", good, path("out.gif")},
+         2,
+         "brevik-cli: the output must end in .ico, .cur or .bmp (see brevik-cli --help)"},
+        {{"convert", "--size", "20", good, path("o.ico")},
+         2,
+         "brevik-cli: --size must be 16, 32 or 48 (see brevik-cli --help)"},
+        {{"extract", "--size", "16", good},
+         2,
+         "brevik-cli: extract --size takes only 32, the size Extract gives (see brevik-cli "
+         "--help)"},
+        {{"info", missing, good}, 1, "brevik-cli: Unable to read data from " + missing},
+        {{"info", corrupt}, 1, "brevik-cli: " + corrupt + " is not a valid icon file."},
+        {{"convert", missing, path("never.ico")},
+         1,
+         "brevik-cli: Unable to read data from " + missing},
+        {{"convert", corrupt, path("never.ico")},
+         1,
+         "brevik-cli: " + corrupt + " is not a valid icon file."},
+        {{"extract", "-o", path("x"), corrupt},
+         1,
+         "brevik-cli: " + corrupt + " is not a valid icon file."},
+        {{"library", path("never.icl"), missing},
+         1,
+         "brevik-cli: Unable to read data from " + missing},
+        {{"convert", good, path("no/such/folder/o.ico")},
+         1,
+         "brevik-cli: Unable to save the file " + path("no/such/folder/o.ico")},
+    };
+    for (const auto& c : cases) {
+        const Outcome r = cli(c.arguments);
+        const std::string what = c.arguments.join(' ').toStdString();
+        EXPECT_EQ(r.code, c.code) << what;
+        EXPECT_EQ(r.err, c.stderrLine.isEmpty() ? "" : c.stderrLine + "\n") << what;
+        if (c.code == 0) {
+            EXPECT_TRUE(r.out.startsWith("Usage: brevik-cli")) << what;
+        }
+    }
+    // The other files still count: the good file is listed behind the missing one.
+    EXPECT_TRUE(cli({"info", missing, good}).out.startsWith(good + "\t0\t16x16\t24\ticon\t-\n"));
+    EXPECT_FALSE(QFile::exists(path("never.ico")));
+    EXPECT_FALSE(QFile::exists(path("never.icl")));
+#ifdef BREVIK_EDITOR
+    EXPECT_EQ(run(BREVIK_EDITOR, {"--help"}).code, 0);
+    EXPECT_TRUE(run(BREVIK_EDITOR, {"--help"}).out.startsWith("Usage: brevik"));
+    const Outcome bad = run(BREVIK_EDITOR, {"--bogus"});
+    EXPECT_EQ(bad.code, 2);
+    EXPECT_EQ(bad.err, "brevik: unknown option --bogus (see brevik --help)\n");
+#endif
+}
+
+// A picture whose pixels tell apart opaque, transparent and many colours.
+QImage picture(int width, int height, int colours) {
+    QImage image(width, height, QImage::Format_ARGB32);
+    for (int y = 0; y < height; ++y)
+        for (int x = 0; x < width; ++x) {
+            const int n = (x * 7 + y * 3) % colours;
+            image.setPixel(x, y,
+                           (x + y) % 5 == 0 ? qRgba(9, 9, 9, 100)
+                                            : qRgb(n * 40 % 256, n * 90 % 256, n * 15 % 256));
+        }
+    return image;
+}
+
+// The planes the editor holds for the picture: under half opacity
+// transparent, the rest opaque.
+std::pair<Plane, Plane> planesOf(const QImage& image) {
+    Plane mask(image.width(), image.height()), colour(image.width(), image.height());
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x) {
+            const QRgb p = image.pixel(x, y);
+            const bool opaque = qAlpha(p) >= 128;
+            mask.setPixel(x, y, opaque ? kBlack : kWhite);
+            colour.setPixel(x, y, opaque ? rgb(qRed(p), qGreen(p), qBlue(p)) : kBlack);
+        }
+    return {mask, colour};
+}
+
+TEST_F(CliTest, ConvertWritesWhatSaveAsWritesForTheSamePlanes) {
+    // 2 colours (1 bit), 16 of the standard ones would need the exact
+    // values, so 6 and 300 give 8 and 24 bits; the kinds of output too.
+    const struct {
+        int size, colours;
+        const char* out;
+    } cases[] = {{16, 1, "ico"}, {32, 6, "ico"},   {48, 300, "ico"},
+                 {32, 6, "cur"}, {16, 300, "bmp"}, {48, 6, "bmp"}};
+    for (const auto& c : cases) {
+        const QImage image = picture(c.size, c.size, c.colours);
+        const QString in = path("in.png"), out = path(QString("out.") + c.out);
+        ASSERT_TRUE(image.save(in));
+        const auto [mask, colour] = planesOf(image);
+        QByteArray expected;
+        if (QString(c.out) == "ico") {
+            expected = IcoFile::iconBytes(mask, colour, ModPalette::countColours(colour, true));
+        } else if (QString(c.out) == "cur") {
+            expected =
+                IcoFile::cursorBytes(mask, colour, ModPalette::countColours(colour, true), 5, 7);
+        } else {
+            Plane clip(c.size, c.size, kWhite);
+            drawMasked(clip, 0, 0, mask, colour);
+            expected = BmpFile::bytes(clip, ModPalette::countColours(clip, false));
+        }
+        const Outcome r = cli({"convert", "--hotspot", "5,7", in, out});
+        EXPECT_EQ(r.code, 0) << r.err.toStdString();
+        EXPECT_EQ(read(out), expected) << c.size << c.out;
+        // An icon read back through the editor's reader converts to itself.
+        if (QString(c.out) != "bmp") {
+            expectIcotoolReads(out);
+            ASSERT_EQ(cli({"convert", "--hotspot", "5,7", out, out + ".again." + c.out}).code, 0);
+            EXPECT_EQ(read(out + ".again." + c.out), expected);
+        }
+    }
+}
+
+TEST_F(CliTest, ConvertFitsAnOddPictureKeepingItsAspectAndSaysSo) {
+    // 20 x 10 into 16 keeps its aspect at 16 x 8, centred: rows 4 to 11.
+    const QString in = path("wide.png"), out = path("wide.ico");
+    QImage image(20, 10, QImage::Format_RGB32);
+    image.fill(qRgb(200, 10, 10));
+    ASSERT_TRUE(image.save(in));
+    const Outcome r = cli({"convert", "--size", "16", in, out});
+    EXPECT_EQ(r.code, 0);
+    EXPECT_EQ(r.out, in + ": 20 x 10 shrunk to 16 x 8 (aspect kept), centred in a 16 x 16 icon\n");
+    const IconLoadResult icon = IcoFile(read(out)).image(0);
+    ASSERT_TRUE(icon.ok());
+    for (int y = 0; y < 16; ++y) {
+        const bool opaque = y >= 4 && y < 12;
+        EXPECT_EQ(icon.mask.pixel(0, y), opaque ? kBlack : kWhite) << y;
+        EXPECT_EQ(icon.image.pixel(15, y), opaque ? rgb(200, 10, 10) : kBlack) << y;
+    }
+    // With no size the nearest is taken, the larger of two as near.
+    image = QImage(40, 40, QImage::Format_RGB32);
+    ASSERT_TRUE(image.save(in));
+    EXPECT_EQ(cli({"convert", in, out}).out, in + ": 40 x 40 centred in a 48 x 48 icon\n");
+}
+
+QByteArray dll(const std::vector<std::pair<QString, QByteArray>>& icons, const char* target) {
+    QString error;
+    const QByteArray bytes = PeLibraryBuilder{target, icons}.build(error);
+    EXPECT_FALSE(bytes.isEmpty()) << error.toStdString();
+    return bytes;
+}
+
+TEST_F(CliTest, ExtractGivesWhatWrestoolGivesAndLibrariesReadBack) {
+    const std::vector<std::pair<QString, QByteArray>> icons{
+        {"3", joinIcons({patternIcon(16, 1, 16), patternIcon(32, 2), patternIcon(48, 3, 2)})},
+        {"APP", joinIcons({patternIcon(32, 4, 256)})}};
+    for (const char* target : {"x86_64", "i686"}) {
+        const QString library = make("lib.dll", dll(icons, target));
+        QDir(path("ours")).removeRecursively();
+        QDir(path("theirs")).removeRecursively();
+        ASSERT_EQ(cli({"extract", library, "-o", path("ours")}).code, 0);
+        QDir().mkpath(path("theirs"));
+        ASSERT_EQ(run("wrestool", {"-x", "-t14", library, "-o", path("theirs")}).code, 0);
+        const auto ours = filesIn(path("ours")), theirs = filesIn(path("theirs"));
+        ASSERT_EQ(ours.size(), 2u);
+        // wrestool sizes its file as the group resource plus the directory
+        // and the images, so behind the images it writes as many bytes
+        // again as the group resource holds (6 + 14 per image), outside
+        // every image the directory names.
+        for (const auto& [name, images] :
+             {std::pair{QString("3"), 3}, std::pair{QString("APP"), 1}}) {
+            const QByteArray mine = ours.at("lib_" + name + ".ico");
+            const QByteArray theirsFile = theirs.at("lib.dll_14_" + name + ".ico");
+            EXPECT_EQ(theirsFile.left(mine.size()), mine) << target << name.toStdString();
+            EXPECT_EQ(theirsFile.size() - mine.size(), 6 + 14 * images) << target;
+            expectIcotoolReads(path("ours/lib_" + name + ".ico"));
+        }
+    }
+
+    // A library of icon files gives back those files, byte for byte, to this
+    // reader and to wrestool's.
+    const QString a = make("a.ico", icons[0].second), b = make("b.ico", icons[1].second);
+    ASSERT_EQ(cli({"library", path("lib.icl"), a, b}).code, 0);
+    ASSERT_EQ(cli({"extract", path("lib.icl"), "-o", path("icl")}).code, 0);
+    EXPECT_EQ(filesIn(path("icl")),
+              (std::map<QString, QByteArray>{{"lib_1.ico", read(a)}, {"lib_2.ico", read(b)}}));
+    const Outcome listed = run("wrestool", {"-l", path("lib.icl")});
+    EXPECT_EQ(listed.code, 0);
+    EXPECT_EQ(listed.out.count("--type=14"), 2) << listed.out.toStdString();
+    EXPECT_EQ(listed.out.count("--type=3"), 4) << listed.out.toStdString();
+    for (int group : {1, 2}) {
+        const QString extracted = path(QString("w%1.ico").arg(group));
+        ASSERT_EQ(run("wrestool", {"-x", "-t14", "-n", QString::number(group), path("lib.icl"),
+                                   "-o", extracted})
+                      .code,
+                  0);
+        expectIcotoolReads(extracted);
+    }
+
+    // An animated cursor: one file per step; --size 32 gives what Extract
+    // shows, as Save As writes it.
+    const QByteArray cursor = joinIcons({patternIcon(32, 6)}).replace(2, 1, "\x02");
+    const QString ani = make("walk.ani", AniWriter{{patternIcon(16, 5), cursor}, 2, {}}.bytes());
+    ASSERT_EQ(cli({"extract", ani, "-o", path("ani")}).code, 0);
+    EXPECT_EQ(filesIn(path("ani")),
+              (std::map<QString, QByteArray>{{"walk_0.ico", patternIcon(16, 5)},
+                                             {"walk_1.cur", cursor}}));
+    ASSERT_EQ(cli({"extract", "--size", "32", ani, "-o", path("ani32")}).code, 0);
+    const IconLoadResult shown = shownAs(patternIcon(16, 5));
+    EXPECT_EQ(
+        read(path("ani32/walk_0.ico")),
+        IcoFile::iconBytes(shown.mask, shown.image, ModPalette::countColours(shown.image, true)));
+    expectIcotoolReads(path("ani32/walk_0.ico"));
+}
+
+TEST_F(CliTest, InfoListsEveryImageOfEveryIcon) {
+    const QString ico = make("two.ico", joinIcons({patternIcon(16, 1, 16), patternIcon(32, 2)}));
+    const QString cur = make("p.cur", IcoFile::cursorBytes(Plane(16, 16), Plane(16, 16), 2, 5, 7));
+    const QString lib = make("l.dll", dll({{"9", joinIcons({patternIcon(48, 3, 2)})}}, "x86_64"));
+    const Outcome r = cli({"info", ico, cur, lib});
+    EXPECT_EQ(r.code, 0);
+    EXPECT_EQ(r.out, ico + "\t0\t16x16\t4\ticon\t-\n" + ico + "\t1\t32x32\t24\ticon\t-\n" + cur +
+                         "\t0\t16x16\t1\tcursor\t5,7\n" + lib + "\t9/0\t48x48\t1\ticon\t-\n");
+    const Outcome json = cli({"info", "--json", cur});
+    EXPECT_EQ(json.out.simplified(),
+              QString("[ { \"depth\": 1, \"file\": \"%1\", \"height\": 16, \"hotspot\": [ 5, 7 ], "
+                      "\"icon\": null, \"index\": 0, \"kind\": \"cursor\", \"width\": 16 } ]")
+                  .arg(cur));
+}
+
+} // namespace
