@@ -4,7 +4,10 @@ BUILD ?= build
 JOBS ?= $(shell nproc)
 CMAKE_FLAGS ?=
 
-.PHONY: all deps build run test test-asan bench fuzz clean
+PREFIX ?= /usr/local
+DESTDIR ?=
+
+.PHONY: all deps build run test install test-asan bench fuzz clean
 
 all: build
 
@@ -23,6 +26,11 @@ run: build
 test: build
 	cd $(BUILD) && ctest --output-on-failure -j $(JOBS)
 
+# The programs, the desktop entry, the icons and the man pages under PREFIX
+# (DESTDIR=/tmp/x to stage them elsewhere).
+install: build
+	DESTDIR=$(DESTDIR) cmake --install $(BUILD) --prefix $(PREFIX)
+
 # The whole suite under AddressSanitizer (leaks included) and
 # UndefinedBehaviorSanitizer, in its own build folder. The test binaries also
 # run while building (test discovery), so the options hold for both steps.
@@ -39,8 +47,9 @@ test-asan: deps
 bench:
 	@./scripts/install-deps.sh --extras
 	cmake -S . -B build-bench -DCMAKE_BUILD_TYPE=Release -DBREVIK_BUILD_BENCH=ON -DBREVIK_BUILD_TESTS=OFF
-	cmake --build build-bench -j $(JOBS) --target brevik_bench
+	cmake --build build-bench -j $(JOBS) --target brevik_bench brevik-cli
 	./build-bench/bench/brevik_bench
+	./bench/cli-vs-icoutils.sh build-bench/src/brevik-cli
 
 FUZZ_SECONDS ?= 60
 # FUZZERS=RecentStoreFuzzer runs only the harnesses named; all by default.

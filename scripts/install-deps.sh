@@ -9,12 +9,15 @@ packages=(
     libgtest-dev libgmock-dev
     qt6-qpa-plugins fonts-dejavu-core
     icoutils python3 python3-pil
+    # Man pages and the desktop entry's check.
+    scdoc desktop-file-utils
     # windres and ld build the real DLLs the icon extraction tests read.
     binutils-mingw-w64-x86-64 binutils-mingw-w64-i686
 )
 if [ "${1:-}" = "--extras" ]; then
     # For looking at the editor by hand, benchmarks and fuzzing.
-    packages+=(xvfb xauth xdotool xclip imagemagick libbenchmark-dev clang libclang-rt-14-dev)
+    packages+=(xvfb xauth xdotool xclip imagemagick libbenchmark-dev clang libclang-rt-14-dev
+               hyperfine libwine)
 fi
 
 missing=()

@@ -6,6 +6,7 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <optional>
 
 namespace {
 
@@ -32,9 +33,39 @@ void startUpMessages(QtMsgType type, const QMessageLogContext&, const QString& m
     std::_Exit(1);
 }
 
+// --help and --version, answered before anything needs a display; another
+// option is bad usage. Returns the exit status when the program is done.
+std::optional<int> answerOptions(int argc, char** argv) {
+    for (int i = 1; i < argc; ++i) {
+        const QByteArray argument(argv[i]);
+        if (argument == "-h" || argument == "--help") {
+            std::fputs("Usage: brevik [FILE.ico]\n"
+                       "Edits small Windows icons and cursors; opens FILE.ico if given.\n"
+                       "\n"
+                       "  -h, --help     show this help and exit\n"
+                       "  --version      show the version and exit\n"
+                       "\n"
+                       "brevik-cli reads and writes the same files from the command line.\n",
+                       stdout);
+            return 0;
+        }
+        if (argument == "--version") {
+            std::printf("brevik %s\n", BREVIK_VERSION);
+            return 0;
+        }
+        if (argument.startsWith('-') && argument != "-") {
+            std::fprintf(stderr, "brevik: unknown option %s (see brevik --help)\n", argv[i]);
+            return 2;
+        }
+    }
+    return std::nullopt;
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
+    if (const std::optional<int> status = answerOptions(argc, argv))
+        return *status;
     if (!hasDisplay()) {
         std::fprintf(stderr, "brevik: no display found (DISPLAY is not set); start it from a "
                              "desktop session or under Xvfb.\n");
