@@ -4,6 +4,7 @@
 #include "dialogs/FrmHotSpot.h"
 #include "dialogs/FrmMultiIconDialog.h"
 #include "dialogs/FrmColAdj.h"
+#include "dialogs/FrmGrad.h"
 
 #include <QFileDialog>
 #include <QFileInfo>
@@ -135,4 +136,12 @@ bool QtUserDialogs::adjustColours(ColourAdjustment& adjustment) {
     FrmColAdj dialog(adjustment, owner_);
     dialog.exec();
     return !dialog.cancelled();
+}
+
+std::optional<Plane> QtUserDialogs::chooseGradient(int size) {
+    FrmGrad dialog(size, owner_);
+    dialog.exec();
+    if (dialog.cancelled())
+        return std::nullopt;
+    return dialog.gradient();
 }

@@ -7,6 +7,7 @@
 #include "operations/Buttonize.h"
 #include "operations/ColourAdjustment.h"
 #include "operations/ColourTransforms.h"
+#include "operations/GradientFill.h"
 #include "operations/ImageTransforms.h"
 #include "operations/OperationDialogs.h"
 
@@ -87,6 +88,10 @@ void Operations::colorAction(ColorAction item) {
         adjustColours();
         return;
     }
+    if (item == ColorAction::GradientTransparency) {
+        gradientTransparency();
+        return;
+    }
     if (item != ColorAction::Invert && item != ColorAction::Greyscale)
         return;
     const EditTarget target = targetFor(context_, false);
@@ -107,6 +112,20 @@ void Operations::adjustColours() {
     adjustment.apply(doc.PicImage);
     context_.refresh();
     context_.recordEdit();
+}
+
+void Operations::gradientTransparency() {
+    // The dialog needs only the icon size, so a Cancel leaves a selection
+    // where it is.
+    const std::optional<Plane> gradient = dialogs_.chooseGradient(context_.doc().size);
+    if (!gradient)
+        return;
+    // The gradient goes under the whole icon's transparent pixels, never a
+    // selection's: commit it, and the target is the whole icon.
+    context_.commitSelection();
+    const EditTarget target = targetFor(context_, false);
+    GradientFill::fillTransparent(target.image, target.mask, *gradient);
+    finishEdit(context_, target);
 }
 
 void Operations::fxAction(FxAction item) {

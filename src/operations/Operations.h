@@ -25,6 +25,7 @@ class Operations {
   private:
     void rotate(ImageAction item);
     void adjustColours();
+    void gradientTransparency();
     void buttonize();
 
     EditContext& context_;

@@ -16,4 +16,5 @@ class CancellingDialogs : public EditorDialogs {
     std::optional<HotSpot> chooseHotSpot(const Plane&, int, int) override { return {}; }
     int choosePasteOption() override { return -1; }
     bool adjustColours(ColourAdjustment&) override { return false; }
+    std::optional<Plane> chooseGradient(int) override { return {}; }
 };

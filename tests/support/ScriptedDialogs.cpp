@@ -48,3 +48,8 @@ bool ScriptedDialogs::adjustColours(ColourAdjustment& adjustment) {
     const auto user = takeOr(colourAdjustments, std::function<bool(ColourAdjustment&)>());
     return user && user(adjustment);
 }
+
+std::optional<Plane> ScriptedDialogs::chooseGradient(int size) {
+    gradientSizes.push_back(size);
+    return takeOr(gradients, std::optional<Plane>());
+}
