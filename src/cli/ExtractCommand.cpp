@@ -24,8 +24,6 @@ int ExtractCommand::run(const CommandLine& line, CliReport& report) {
     const auto size = line.value("--size");
     if (size && *size != "32")
         return report.usage(QStringLiteral("extract --size takes only 32, the size Extract gives"));
-    if (line.files.isEmpty())
-        return report.usage(QStringLiteral("extract needs at least one file"));
     const QDir folder(line.value("-o").value_or(QStringLiteral(".")));
     if (!folder.exists() && !QDir().mkpath(folder.path())) {
         report.fail(QStringLiteral("Unable to create the folder ") + folder.path());

@@ -1,3 +1,4 @@
+#include "cli/BuildCommand.h"
 #include "cli/CliReport.h"
 #include "cli/CommandLine.h"
 #include "cli/ConvertCommand.h"
@@ -25,6 +26,7 @@ const std::map<QString, Verb>& verbs() {
         {"info", {{}, {"--json"}, InfoCommand::run}},
         {"convert", {{"--size", "--index", "--hotspot"}, {}, ConvertCommand::run}},
         {"extract", {{"--size", "-o", "--output"}, {}, ExtractCommand::run}},
+        {"build", {{}, {}, BuildCommand::run}},
         {"library", {{}, {}, LibraryCommand::run}},
     };
     return all;
@@ -62,7 +64,7 @@ int main(int argc, char** argv) {
         return report.usage(line.error);
     if (line.has("--output"))
         line.options["-o"] = line.options["--output"];
-    if (verbName != "convert" && verbName != "library" && line.files.isEmpty())
+    if ((verbName == "info" || verbName == "extract") && line.files.isEmpty())
         return report.usage(verbName + QStringLiteral(" needs at least one file"));
     return verb->second.run(line, report);
 }

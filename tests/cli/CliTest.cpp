@@ -6,6 +6,7 @@
 #include "fileio/BmpFile.h"
 #include "fileio/IconSourceOpener.h"
 #include "fileio/ModPalette.h"
+#include "fileio/MultiIconResource.h"
 
 #include <QDir>
 #include <QFile>
@@ -307,6 +308,30 @@ TEST_F(CliTest, ExtractGivesWhatWrestoolGivesAndLibrariesReadBack) {
         read(path("ani32/walk_0.ico")),
         IcoFile::iconBytes(shown.mask, shown.image, ModPalette::countColours(shown.image, true)));
     expectIcotoolReads(path("ani32/walk_0.ico"));
+}
+
+TEST_F(CliTest, BuildGivesTheBuildersCreateBytes) {
+    // 16 x 16 at 24 bits and 32 x 32 at 1 bit, a second 32 x 32 1-bit icon
+    // that replaces the first, and a multi-image file that is refused.
+    const QString a = make("a.ico", patternIcon(16, 1)), b = make("b.ico", patternIcon(32, 2, 2)),
+                  c = make("c.ico", patternIcon(32, 3, 2)),
+                  multi = make("m.ico", joinIcons({patternIcon(16, 4), patternIcon(32, 4)}));
+    const Outcome r = cli({"build", path("out.ico"), a, b, multi, c});
+    EXPECT_EQ(r.code, 1);
+    EXPECT_EQ(r.err, "brevik-cli: " + multi +
+                         " is a multi icon resource. Only single icons can be loaded.\n");
+    MultiIconResource builder;
+    for (const QString& file : {a, b, c})
+        builder.add(read(file));
+    const QByteArray built = read(path("out.ico"));
+    EXPECT_EQ(built, builder.toBytes());
+    // The 24-bit entry first, at 6 + 16 x 2; the next image 872 bytes on.
+    const IconDirectory directory = *IconDirectory::read(ByteView(built));
+    ASSERT_EQ(directory.entries.size(), 2u);
+    EXPECT_EQ(directory.entries[0].imageOffset, 38);
+    EXPECT_EQ(directory.entries[1].imageOffset, 910);
+    EXPECT_EQ(built.mid(910), read(c).mid(22));
+    expectIcotoolReads(path("out.ico"));
 }
 
 TEST_F(CliTest, InfoListsEveryImageOfEveryIcon) {
