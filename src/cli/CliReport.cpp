@@ -15,15 +15,13 @@ CliReport::~CliReport() {
 }
 
 void CliReport::print(const QString& line) {
-    out_ += line.toUtf8();
-    out_ += '\n';
-    if (out_.size() >= kFlushBytes)
-        flush();
+    write(line.toUtf8() + '\n');
 }
 
-void CliReport::printRaw(const QByteArray& bytes) {
+void CliReport::write(const QByteArray& bytes) {
     out_ += bytes;
-    flush();
+    if (out_.size() >= kFlushBytes)
+        flush();
 }
 
 void CliReport::fail(const QString& message) {

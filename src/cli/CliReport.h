@@ -13,7 +13,7 @@ class CliReport {
     ~CliReport();
 
     void print(const QString& line);
-    void printRaw(const QByteArray& bytes);
+    void write(const QByteArray& bytes);
     // The editor's message for the failure, on one line.
     void fail(const QString& message);
     // Why a file opened as an icon container gave none: the editor's texts.

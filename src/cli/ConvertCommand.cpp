@@ -1,48 +1,18 @@
 #include "cli/ConvertCommand.h"
 
 #include "cli/IconFit.h"
+#include "cli/PictureReader.h"
 #include "fileio/IcoFile.h"
 #include "fileio/IcoIconSource.h"
 #include "fileio/ModFileIO.h"
 #include "fileio/ModPalette.h"
 #include "platform/Raster.h"
 
-#include <QBuffer>
 #include <QFileInfo>
-#include <QImage>
-#include <QImageReader>
 
 namespace {
 
 enum class Output { Icon, Cursor, Bitmap };
-
-struct Picture {
-    Plane mask;
-    Plane image;
-};
-
-// A picture read by Qt's image readers: pixels under half opacity become
-// transparent (mask white, colour black), the rest opaque in their colour.
-std::optional<Picture> fromImage(const QByteArray& bytes) {
-    QBuffer buffer;
-    buffer.setData(bytes);
-    QImageReader reader(&buffer);
-    const QImage read = reader.read();
-    if (read.isNull())
-        return std::nullopt;
-    const QImage argb = read.convertToFormat(QImage::Format_ARGB32);
-    Picture p{Plane(argb.width(), argb.height()), Plane(argb.width(), argb.height())};
-    for (int y = 0; y < argb.height(); ++y) {
-        const auto* line = reinterpret_cast<const QRgb*>(argb.constScanLine(y));
-        for (int x = 0; x < argb.width(); ++x) {
-            const bool opaque = qAlpha(line[x]) >= 128;
-            p.mask.setPixel(x, y, opaque ? kBlack : kWhite);
-            p.image.setPixel(x, y,
-                             opaque ? rgb(qRed(line[x]), qGreen(line[x]), qBlue(line[x])) : kBlack);
-        }
-    }
-    return p;
-}
 
 std::optional<int> number(const QString& text) {
     bool ok = false;
@@ -80,7 +50,8 @@ int ConvertCommand::run(const CommandLine& line, CliReport& report) {
         report.failToRead(in, fault);
         return report.status();
     }
-    std::optional<Picture> picture;
+    std::optional<PictureReader::Planes> picture;
+    QString error;
     if (IcoIconSource::recognises(*bytes)) {
         // Icons and cursors go through the editor's own reader, which also
         // refuses the sizes the editor cannot hold.
@@ -90,9 +61,11 @@ int ConvertCommand::run(const CommandLine& line, CliReport& report) {
                         ModFileIO::loadMessage(loaded, IcoFile(*bytes).count() > 1));
             return report.status();
         }
-        picture = Picture{std::move(loaded.mask), std::move(loaded.image)};
-    } else if (!(picture = fromImage(*bytes))) {
-        report.fail(in + QStringLiteral(" is not a valid icon file."));
+        picture = PictureReader::Planes{std::move(loaded.mask), std::move(loaded.image)};
+    } else if (!(picture = PictureReader::read(*bytes, error))) {
+        report.fail(error.isEmpty()
+                        ? in + QStringLiteral(" is not a valid icon file.")
+                        : QStringLiteral("Unable to read data from ") + in + " (" + error + ")");
         return report.status();
     }
 

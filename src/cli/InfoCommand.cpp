@@ -42,6 +42,24 @@ std::optional<ImageFacts> factsOf(const ByteView& in, qint64 offset) {
     return ImageFacts{info->width, info->height / 2, info->bitCount, false};
 }
 
+// One tab-separated line: file, icon/index, size, depth, kind, hot spot.
+// Built as bytes, not formatted: hundreds of files are listed at a time, and
+// a file name may hold "%1".
+QByteArray textLine(const QByteArray& file, const QString& name, int index, const ImageFacts& facts,
+                    const QString& kind, const DirEntry* cursor) {
+    QByteArray line = file;
+    line += '\t';
+    if (!name.isEmpty())
+        line += name.toUtf8() + '/';
+    line += QByteArray::number(index) + '\t' + QByteArray::number(facts.width) + 'x' +
+            QByteArray::number(facts.height) + '\t' + QByteArray::number(facts.depth) + '\t' +
+            kind.toLatin1() + '\t';
+    line += cursor ? QByteArray::number(cursor->planes) + ',' + QByteArray::number(cursor->bitCount)
+                   : QByteArray("-");
+    line += '\n';
+    return line;
+}
+
 } // namespace
 
 int InfoCommand::run(const CommandLine& line, CliReport& report) {
@@ -53,6 +71,7 @@ int InfoCommand::run(const CommandLine& line, CliReport& report) {
             report.failToRead(path, opened.fault);
             continue;
         }
+        const QByteArray file = path.toUtf8();
         bool whole = true;
         for (int icon = 0; icon < opened.source->count(); ++icon) {
             const auto stored = opened.source->storedFile(icon);
@@ -86,23 +105,13 @@ int InfoCommand::run(const CommandLine& line, CliReport& report) {
                     all.append(o);
                     continue;
                 }
-                const QString index =
-                    name.isEmpty() ? QString::number(i) : name + '/' + QString::number(i);
-                const QString hotSpot =
-                    cursor ? QString::number(entry.planes) + ',' + QString::number(entry.bitCount)
-                           : QStringLiteral("-");
-                // Joined rather than formatted: a file name may hold "%1".
-                report.print(QStringList{path, index,
-                                         QString::number(facts->width) + 'x' +
-                                             QString::number(facts->height),
-                                         QString::number(facts->depth), kind, hotSpot}
-                                 .join('\t'));
+                report.write(textLine(file, name, i, *facts, kind, cursor ? &entry : nullptr));
             }
         }
         if (!whole)
             report.fail(QStringLiteral("An error occurred while loading ") + path);
     }
     if (json)
-        report.printRaw(QJsonDocument(all).toJson(QJsonDocument::Indented));
+        report.write(QJsonDocument(all).toJson(QJsonDocument::Indented));
     return report.status();
 }

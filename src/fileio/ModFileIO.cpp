@@ -29,12 +29,14 @@ std::optional<QByteArray> readWhole(const QString& path, ReadFault* fault, QByte
         return std::nullopt;
     };
     ++reads;
-    if (path.isEmpty() || !QFileInfo(path).isFile())
+    // One look at the file answers both what it is and how large.
+    const QFileInfo info(path);
+    if (path.isEmpty() || !info.isFile())
         return fail(ReadFault::Unreadable);
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return fail(ReadFault::Unreadable);
-    if (file.size() > IconLayout::kMaxFileBytes) {
+    if (info.size() > IconLayout::kMaxFileBytes) {
         if (head)
             *head = file.read(kHeadBytes);
         return fail(ReadFault::TooLarge);
@@ -42,7 +44,7 @@ std::optional<QByteArray> readWhole(const QString& path, ReadFault* fault, QByte
     // Read at the size the file gives: asking for the limit would make a
     // buffer of the limit for every file. A file that tells no size (some
     // system files) is read up to the limit.
-    QByteArray bytes = file.read(file.size() > 0 ? file.size() : IconLayout::kMaxFileBytes);
+    QByteArray bytes = file.read(info.size() > 0 ? info.size() : IconLayout::kMaxFileBytes);
     if (file.error() != QFileDevice::NoError)
         return fail(ReadFault::Unreadable);
     if (fault)

@@ -17,7 +17,8 @@ set(expected
   share/icons/hicolor/scalable/apps/brevik.svg
   share/man/man1/brevik.1
   share/man/man1/brevik-cli.1
-  share/brevik/brevik.icl)
+  share/brevik/brevik.icl
+  lib/brevik/brevik-cli-pictures.so)
 if(WITH_EDITOR)
   list(APPEND expected bin/brevik)
 endif()
@@ -37,4 +38,11 @@ execute_process(COMMAND man --warnings -l ${root}/share/man/man1/brevik-cli.1
                 RESULT_VARIABLE failed OUTPUT_QUIET ERROR_VARIABLE warned)
 if(failed OR NOT warned STREQUAL "")
   message(FATAL_ERROR "man brevik-cli: ${warned}")
+endif()
+# The installed brevik-cli finds its picture reader module.
+execute_process(COMMAND ${root}/bin/brevik-cli convert ${root}/share/icons/hicolor/32x32/apps/brevik.png
+                        ${STAGE}/brevik.ico
+                RESULT_VARIABLE failed ERROR_VARIABLE said)
+if(failed)
+  message(FATAL_ERROR "installed brevik-cli convert: ${said}")
 endif()

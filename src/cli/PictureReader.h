@@ -1,0 +1,25 @@
+#pragma once
+
+#include "platform/Plane.h"
+
+#include <QByteArray>
+#include <QString>
+#include <optional>
+
+// Pictures that are not icons (PNG, BMP and whatever else Qt's image readers
+// know), read into the document's two planes: pixels under half opacity
+// become transparent (mask white, colour black), the rest opaque in their
+// colour. Qt's readers live in QtGui, whose loading alone takes longer than
+// listing hundreds of icons, so they sit in a module of their own that is
+// loaded only when convert meets such a picture.
+class PictureReader {
+  public:
+    struct Planes {
+        Plane mask;
+        Plane image;
+    };
+
+    // nullopt when the bytes are no picture Qt knows; error says why when
+    // the module itself could not be loaded.
+    static std::optional<Planes> read(const QByteArray& bytes, QString& error);
+};
