@@ -1,5 +1,6 @@
 #include "fileio/MultiIconBuilder.h"
 
+#include "fileio/IcoFile.h"
 #include "fileio/ModFileIO.h"
 
 #include <QFile>
@@ -7,15 +8,30 @@
 
 using Outcome = MultiIconResource::AddOutcome;
 
-QString MultiIconBuilder::limitMessage() {
-    return QStringLiteral("A maximum of ten icons has been reached.\r\n\r\n"
-                          "If you wish to remove an icon, right click on it to delete.");
+QString MultiIconBuilder::addMessage(Outcome outcome, const QString& fileTitle) {
+    switch (outcome) {
+    case Outcome::Added:
+        break;
+    case Outcome::LimitReached:
+        return QStringLiteral("A maximum of ten icons has been reached.\r\n\r\n"
+                              "If you wish to remove an icon, right click on it to delete.");
+    case Outcome::NotAnIcon:
+        return fileTitle + QStringLiteral(" is not a valid icon file.");
+    case Outcome::NoImages:
+        return QStringLiteral("Unable to read data from ") + fileTitle;
+    case Outcome::MultiImage:
+        return fileTitle + QStringLiteral(" is a multi icon resource.\r\n\r\n"
+                                          "Only single icons can be loaded.");
+    case Outcome::CannotLoad:
+        return QStringLiteral("Unable to load icon.");
+    }
+    return {};
 }
 
 int MultiIconBuilder::open() {
     // The limit is told before the file dialog, so no file is chosen in vain.
     if (resource_.filledCount() >= MultiIconResource::kMaxFilled) {
-        dialogs_.showMessage(QStringLiteral("Sollent"), limitMessage(), MessageIcon::Information);
+        showMessage(Outcome::LimitReached, {});
         return -1;
     }
     const std::optional<FileChoice> file = chooseFile(FileDialogMode::Open);
@@ -24,28 +40,12 @@ int MultiIconBuilder::open() {
     // A file that cannot be read is not an icon file.
     const QByteArray bytes = ModFileIO::readFile(file->path).value_or(QByteArray());
     const MultiIconResource::AddResult added = resource_.add(bytes);
-    switch (added.outcome) {
-    case Outcome::Added:
-        icons_[added.slot] = IcoFile(bytes).image(0);
-        return added.slot;
-    case Outcome::LimitReached:
-        dialogs_.showMessage(QStringLiteral("Sollent"), limitMessage(), MessageIcon::Information);
-        break;
-    case Outcome::NotAnIcon:
-        showError(file->title + QStringLiteral(" is not a valid icon file."));
-        break;
-    case Outcome::NoImages:
-        showError(QStringLiteral("Unable to read data from ") + file->title);
-        break;
-    case Outcome::MultiImage:
-        showError(file->title + QStringLiteral(" is a multi icon resource.\r\n\r\n"
-                                               "Only single icons can be loaded."));
-        break;
-    case Outcome::CannotLoad:
-        showError(QStringLiteral("Unable to load icon."));
-        break;
+    if (added.outcome != Outcome::Added) {
+        showMessage(added.outcome, file->title);
+        return -1;
     }
-    return -1;
+    icons_[added.slot] = IcoFile(bytes).image(0);
+    return added.slot;
 }
 
 void MultiIconBuilder::remove(int slot) {
@@ -77,6 +77,14 @@ std::optional<FileChoice> MultiIconBuilder::chooseFile(FileDialogMode mode) {
     if (choice)
         recentFolder_ = QFileInfo(choice->path).absolutePath();
     return choice;
+}
+
+void MultiIconBuilder::showMessage(Outcome outcome, const QString& fileTitle) {
+    if (outcome == Outcome::LimitReached)
+        dialogs_.showMessage(QStringLiteral("Sollent"), addMessage(outcome, fileTitle),
+                             MessageIcon::Information);
+    else
+        showError(addMessage(outcome, fileTitle));
 }
 
 void MultiIconBuilder::showError(const QString& text) {

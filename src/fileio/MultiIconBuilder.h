@@ -32,11 +32,14 @@ class MultiIconBuilder {
     // it. Empty planes for an empty slot or a file that does not decode.
     const IconLoadResult& icon(int slot) const { return icons_.at(slot); }
 
-    // The text of the limit message, titled "Sollent".
-    static QString limitMessage();
+    // Why an add filled no slot (empty for Added), with the file's title
+    // where the text names it. The limit is told under "Sollent" with the
+    // information icon, the others under "Sollent - Error".
+    static QString addMessage(MultiIconResource::AddOutcome outcome, const QString& fileTitle);
 
   private:
     std::optional<FileChoice> chooseFile(FileDialogMode mode);
+    void showMessage(MultiIconResource::AddOutcome outcome, const QString& fileTitle);
     void showError(const QString& text);
 
     UserDialogs& dialogs_;
