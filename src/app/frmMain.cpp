@@ -5,6 +5,7 @@
 #include "app/MainLayout.h"
 #include "app/QtClipboard.h"
 #include "app/QtUserDialogs.h"
+#include "dialogs/FrmMir.h"
 #include "widgets/PictureBox.h"
 #include "widgets/ToolIcons.h"
 #include "widgets/WindowPlacement.h"
@@ -195,6 +196,7 @@ void frmMain::connectMenus() {
     for (int i = 1; i < 5; ++i)
         connect(menus.MnuRecent[i], &QAction::triggered, this,
                 [this, i] { run([&] { editor_.recentClick(i); }); });
+    connect(menus.MnuCreateResource, &QAction::triggered, this, &frmMain::createMultiIconResource);
     connect(menus.MnuExit, &QAction::triggered, this, &QWidget::close);
     connect(menus.MnuFile, &QMenu::aboutToShow, this, &frmMain::refreshRecentMenu);
 
@@ -263,6 +265,12 @@ QString frmMain::productHelpText() {
 void frmMain::showProductHelp() {
     editor_.services().dialogs.showMessage(QStringLiteral("Brevik Deluxe"), productHelpText(),
                                            MessageIcon::Information);
+}
+
+void frmMain::createMultiIconResource() {
+    // The builder works on files alone; the document is left as it is.
+    FrmMir form(editor_.services().dialogs, editor_.recentFolder(), this);
+    form.exec();
 }
 
 void frmMain::showAbout() {
