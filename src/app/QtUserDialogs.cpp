@@ -4,6 +4,7 @@
 #include "dialogs/FrmHotSpot.h"
 #include "dialogs/FrmMultiIconDialog.h"
 #include "dialogs/FrmColAdj.h"
+#include "dialogs/FrmIcons.h"
 
 #include <QFileDialog>
 #include <QFileInfo>
@@ -135,4 +136,13 @@ bool QtUserDialogs::adjustColours(ColourAdjustment& adjustment) {
     FrmColAdj dialog(adjustment, owner_);
     dialog.exec();
     return !dialog.cancelled();
+}
+
+std::optional<ExtractedIconChoice> QtUserDialogs::chooseExtractedIcon(const QString& startFile,
+                                                                      QString& recentFolder) {
+    FrmIcons dialog(startFile, *this, recentFolder, owner_);
+    dialog.exec();
+    if (dialog.cancelled())
+        return std::nullopt;
+    return dialog.choice();
 }

@@ -48,3 +48,9 @@ bool ScriptedDialogs::adjustColours(ColourAdjustment& adjustment) {
     const auto user = takeOr(colourAdjustments, std::function<bool(ColourAdjustment&)>());
     return user && user(adjustment);
 }
+
+std::optional<ExtractedIconChoice> ScriptedDialogs::chooseExtractedIcon(const QString& startFile,
+                                                                        QString&) {
+    extractStartFiles.push_back(startFile);
+    return takeOr(extractedIcons, std::optional<ExtractedIconChoice>());
+}
