@@ -3,6 +3,7 @@
 #include "support/MultiIcon.h"
 #include "support/PeLibraryBuilder.h"
 
+#include "fileio/IconSourceOpener.h"
 #include "fileio/ShellLibrary.h"
 
 #include <QDir>
@@ -123,3 +124,16 @@ TEST(ShellLibraryTest, WineBeforeThePrefixBeforeTheProgramsOwnLibrary) {
 }
 
 } // namespace
+
+TEST(ShellLibraryTest, EveryIconOfWinesShellLibraryDecodes) {
+    const QString path = "/usr/lib/x86_64-linux-gnu/wine/x86_64-windows/shell32.dll";
+    if (!QFileInfo(path).isFile())
+        GTEST_SKIP() << "Wine's shell32.dll is not installed";
+    const auto opened = IconSourceOpener::openFile(path);
+    ASSERT_TRUE(opened.source);
+    EXPECT_GT(opened.source->count(), 100);
+    for (int i = 0; i < opened.source->count(); ++i) {
+        const IconLoadResult icon = opened.source->image(i);
+        EXPECT_TRUE(icon.ok()) << i << " " << static_cast<int>(icon.fault);
+    }
+}
