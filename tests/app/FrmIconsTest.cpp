@@ -72,25 +72,21 @@ TEST(FrmIcons, FiftyIconsFitFiveRowsAndTheFiftyFirstScrollsOneRow) {
 
 TEST(FrmIcons, BrowseRefusesAFileWithoutIconsAndKeepsTheGrid) {
     QTemporaryDir dir;
-    const QString other = writeAni(dir, "other.ani", 3);
     ScriptedDialogs dialogs;
-    dialogs.files = {FileChoice{dir.filePath("missing.dll"), "missing.dll"}, std::nullopt,
-                     FileChoice{other, "other.ani"}};
+    dialogs.files = {FileChoice{dir.filePath("none.dll"), "none.dll"},
+                     FileChoice{writeAni(dir, "other.ani", 3), "other.ani"}};
     QString folder;
     FrmIcons dialog(writeAni(dir, "first.ani", 12), dialogs, folder, nullptr);
+    const auto state = [&] { return dialog.windowTitle() + " / " + dialog.LblInfo->text(); };
     clickAt(dialog, 20, 60);
     QTest::mouseClick(dialog.CmdBrowse, Qt::LeftButton);
-    QTest::mouseClick(dialog.CmdBrowse, Qt::LeftButton);
+    EXPECT_EQ(state(), "Sollent - first.ani - 12 Icons / Icon No 11 Selected.");
     ASSERT_EQ(dialogs.messages.size(), 1u);
     EXPECT_EQ(dialogs.messages[0].title + ": " + dialogs.messages[0].text,
-              "Sollent: missing.dll contains no icons.");
-    EXPECT_EQ(dialog.windowTitle() + " " + dialog.LblInfo->text(),
-              "Sollent - first.ani - 12 Icons Icon No 11 Selected.");
-
+              "Sollent: none.dll contains no icons.");
     QTest::mouseClick(dialog.CmdBrowse, Qt::LeftButton);
-    EXPECT_EQ(dialog.windowTitle() + " " + dialog.LblInfo->text(),
-              "Sollent - other.ani - 3 Icons Icon No 1 Selected.");
-    EXPECT_EQ(dialogs.fileModes.back(), FileDialogMode::Extract);
+    EXPECT_EQ(state(), "Sollent - other.ani - 3 Icons / Icon No 1 Selected.");
+    EXPECT_EQ(dialogs.fileModes, std::vector(2, FileDialogMode::Extract));
     EXPECT_EQ(folder, dir.path());
 }
 
@@ -98,8 +94,7 @@ TEST(FrmIcons, ExtractOkGivesA32x32DocumentWhateverTheSizeBefore) {
     QTemporaryDir dir;
     const QString ani = writeAni(dir, "cursor.ani", 4);
     MemoryClipboard clipboard;
-    for (const auto& [sizeIndex, ok] :
-         {std::pair(2, true), std::pair(0, true), std::pair(0, false)}) {
+    for (const auto& [sizeIndex, ok] : {std::pair(2, true), std::pair(0, false)}) {
         frmMain window(nullptr, &clipboard);
         window.editor().registry() = ModRegistry(dir.filePath("store.ini"));
         window.startUp({});
