@@ -99,6 +99,8 @@ void FrmIcons::drawGrid() {
     Vsb->setEnabled(scrolls);
     Vsb->setRange(0, scrolls ? browser_.scrollMaximum() : 0);
     Vsb->setValue(0);
+    // Only a browser that found no start file is without an icon to take.
+    CmdOk->setEnabled(browser_.IconCount > 0);
     showVisibleRows();
 }
 
