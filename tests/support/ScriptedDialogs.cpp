@@ -52,4 +52,8 @@ bool ScriptedDialogs::adjustColours(ColourAdjustment& adjustment) {
 std::optional<Plane> ScriptedDialogs::chooseGradient(int size) {
     gradientSizes.push_back(size);
     return takeOr(gradients, std::optional<Plane>());
+std::optional<ExtractedIconChoice> ScriptedDialogs::chooseExtractedIcon(const QString& startFile,
+                                                                        QString&) {
+    extractStartFiles.push_back(startFile);
+    return takeOr(extractedIcons, std::optional<ExtractedIconChoice>());
 }
