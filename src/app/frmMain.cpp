@@ -5,6 +5,8 @@
 #include "app/MainLayout.h"
 #include "app/QtClipboard.h"
 #include "app/QtUserDialogs.h"
+#include "dialogs/FrmMir.h"
+#include "fileio/ShellLibrary.h"
 #include "widgets/PictureBox.h"
 #include "widgets/ToolIcons.h"
 #include "widgets/WindowPlacement.h"
@@ -184,6 +186,8 @@ void frmMain::connectMenus() {
                 [this, i] { run([&] { editor_.newIcon(i); }); });
     connect(menus.MnuOpen, &QAction::triggered, this,
             [this] { run([&] { editor_.files().open(); }); });
+    connect(menus.MnuExtract, &QAction::triggered, this,
+            [this] { run([&] { editor_.extraction().run(); }); });
     connect(menus.MnuSave, &QAction::triggered, this,
             [this] { run([&] { editor_.files().save(); }); });
     connect(menus.MnuSaveAs, &QAction::triggered, this,
@@ -195,6 +199,7 @@ void frmMain::connectMenus() {
     for (int i = 1; i < 5; ++i)
         connect(menus.MnuRecent[i], &QAction::triggered, this,
                 [this, i] { run([&] { editor_.recentClick(i); }); });
+    connect(menus.MnuCreateResource, &QAction::triggered, this, &frmMain::createMultiIconResource);
     connect(menus.MnuExit, &QAction::triggered, this, &QWidget::close);
     connect(menus.MnuFile, &QMenu::aboutToShow, this, &frmMain::refreshRecentMenu);
 
@@ -265,6 +270,12 @@ void frmMain::showProductHelp() {
                                            MessageIcon::Information);
 }
 
+void frmMain::createMultiIconResource() {
+    // The builder works on files alone; the document is left as it is.
+    FrmMir form(editor_.services().dialogs, editor_.recentFolder(), this);
+    form.exec();
+}
+
 void frmMain::showAbout() {
     auto* about = new AboutBox(this);
     about->setAttribute(Qt::WA_DeleteOnClose);
@@ -273,6 +284,7 @@ void frmMain::showAbout() {
 
 void frmMain::startUp(const QString& commandLine) {
     editor_.startUp(); // the stored settings, the palettes and a new 32 x 32 icon
+    editor_.extraction().startFile = ShellLibrary::locate();
     syncFromCore();
     refreshRecentMenu();
     menus.MnuExit->setText(menus.MnuExit->text() + QStringLiteral("\tAlt+F4"));

@@ -70,6 +70,7 @@ class frmMain : public QMainWindow {
     void enableEditMenu(bool asTheCoreSays);
     void showProductHelp();
     void showAbout();
+    void createMultiIconResource();
     // Runs a command of the core and shows its outcome.
     template <typename Command> void run(Command command);
 

@@ -1,5 +1,7 @@
 // The module brevik-cli loads to read pictures through Qt's image readers
 // (see PictureReader.h). It needs neither a display nor a platform plugin.
+#include "imaging/QtPngDecoder.h"
+
 #include <QBuffer>
 #include <QByteArray>
 #include <QImage>
@@ -24,4 +26,10 @@ extern "C" Q_DECL_EXPORT bool brevikReadPicture(const QByteArray& bytes, int& wi
         argb.insert(argb.end(), line, line + width);
     }
     return true;
+}
+
+// The editor's own PNG decoder, for the images inside icon groups.
+extern "C" Q_DECL_EXPORT const PngDecoder* brevikPngDecoder() {
+    static const QtPngDecoder decoder;
+    return &decoder;
 }

@@ -8,33 +8,42 @@
 namespace {
 
 using ReadPicture = bool (*)(const QByteArray&, int&, int&, std::vector<quint32>&);
+using GetPngDecoder = const PngDecoder* (*)();
+
+struct Module {
+    ReadPicture read = nullptr;
+    GetPngDecoder pngDecoder = nullptr;
+};
 
 // Beside the program in the build tree; in its library folder once
-// installed.
-ReadPicture loadModule(QString& error) {
-    static QLibrary module;
-    static ReadPicture read = nullptr;
-    if (read)
-        return read;
+// installed. Loaded once, on first need.
+const Module& loadModule(QString& error) {
+    static QLibrary library;
+    static Module module;
+    if (module.read)
+        return module;
     const QString here = QCoreApplication::applicationDirPath();
     for (const QString& folder : {here, here + QStringLiteral("/" BREVIK_PICTURES_DIR)}) {
-        module.setFileName(folder + QStringLiteral("/brevik-cli-pictures"));
-        if (module.load()) {
-            read = reinterpret_cast<ReadPicture>(module.resolve("brevikReadPicture"));
-            if (read) {
+        library.setFileName(folder + QStringLiteral("/brevik-cli-pictures"));
+        if (library.load()) {
+            module.read = reinterpret_cast<ReadPicture>(library.resolve("brevikReadPicture"));
+            module.pngDecoder =
+                reinterpret_cast<GetPngDecoder>(library.resolve("brevikPngDecoder"));
+            if (module.read && module.pngDecoder) {
                 error.clear();
-                return read;
+                return module;
             }
+            module = {};
         }
-        error = module.errorString();
+        error = library.errorString();
     }
-    return nullptr;
+    return module;
 }
 
 } // namespace
 
 std::optional<PictureReader::Planes> PictureReader::read(const QByteArray& bytes, QString& error) {
-    const ReadPicture readPicture = loadModule(error);
+    const ReadPicture readPicture = loadModule(error).read;
     int width = 0, height = 0;
     std::vector<quint32> argb;
     if (!readPicture || !readPicture(bytes, width, height, argb))
@@ -50,4 +59,11 @@ std::optional<PictureReader::Planes> PictureReader::read(const QByteArray& bytes
                 x, y, opaque ? rgb(pixel >> 16 & 0xFF, pixel >> 8 & 0xFF, pixel & 0xFF) : kBlack);
         }
     return p;
+}
+
+std::optional<Plane> PictureReader::LazyPngDecoder::decode(const QByteArray& png,
+                                                           int largestSide) const {
+    QString error;
+    const Module& module = loadModule(error);
+    return module.pngDecoder ? module.pngDecoder()->decode(png, largestSide) : std::nullopt;
 }

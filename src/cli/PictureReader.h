@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Plane.h"
+#include "platform/PngDecoder.h"
 
 #include <QByteArray>
 #include <QString>
@@ -11,7 +11,7 @@
 // become transparent (mask white, colour black), the rest opaque in their
 // colour. Qt's readers live in QtGui, whose loading alone takes longer than
 // listing hundreds of icons, so they sit in a module of their own that is
-// loaded only when convert meets such a picture.
+// loaded only when a picture or a PNG image inside an icon must be decoded.
 class PictureReader {
   public:
     struct Planes {
@@ -22,4 +22,10 @@ class PictureReader {
     // nullopt when the bytes are no picture Qt knows; error says why when
     // the module itself could not be loaded.
     static std::optional<Planes> read(const QByteArray& bytes, QString& error);
+
+    // The editor's PNG decoder, from the module when first asked to decode.
+    class LazyPngDecoder : public PngDecoder {
+      public:
+        std::optional<Plane> decode(const QByteArray& png, int largestSide) const override;
+    };
 };

@@ -1,10 +1,11 @@
-#include "cli/BuildCommand.h"
+#include "cli/BuildVerb.h"
 #include "cli/CliReport.h"
 #include "cli/CommandLine.h"
-#include "cli/ConvertCommand.h"
-#include "cli/ExtractCommand.h"
-#include "cli/InfoCommand.h"
-#include "cli/LibraryCommand.h"
+#include "cli/ConvertVerb.h"
+#include "cli/ExtractVerb.h"
+#include "cli/InfoVerb.h"
+#include "cli/LibraryVerb.h"
+#include "cli/PictureReader.h"
 #include "cli/Usage.h"
 
 #include <QCoreApplication>
@@ -23,11 +24,11 @@ struct Verb {
 
 const std::map<QString, Verb>& verbs() {
     static const std::map<QString, Verb> all{
-        {"info", {{}, {"--json"}, InfoCommand::run}},
-        {"convert", {{"--size", "--index", "--hotspot"}, {}, ConvertCommand::run}},
-        {"extract", {{"--size", "-o", "--output"}, {}, ExtractCommand::run}},
-        {"build", {{}, {}, BuildCommand::run}},
-        {"library", {{}, {}, LibraryCommand::run}},
+        {"info", {{}, {"--json"}, InfoVerb::run}},
+        {"convert", {{"--size", "--index", "--hotspot"}, {}, ConvertVerb::run}},
+        {"extract", {{"--size", "-o", "--output"}, {}, ExtractVerb::run}},
+        {"build", {{}, {}, BuildVerb::run}},
+        {"library", {{}, {}, LibraryVerb::run}},
     };
     return all;
 }
@@ -42,6 +43,8 @@ int printHelp() {
 int main(int argc, char** argv) {
     // No display and no platform plugin: image readers work without them.
     QCoreApplication app(argc, argv);
+    const PictureReader::LazyPngDecoder png;
+    PngDecoder::install(&png);
     const QStringList arguments = QCoreApplication::arguments().mid(1);
     CliReport report;
     if (arguments.isEmpty())

@@ -20,26 +20,33 @@ constexpr int kLastIndex = 255;
 constexpr int kScratch = 48;
 constexpr int kDiagonalLength = 2 * kScratch;
 
-// The first whole coordinate of band `band` among 256 bands, each length / 255
-// long, along a strip `length` long. A band covers the coordinates from its
-// first up to the next band's first, so a pixel takes the band its top (or
-// left) edge lies in: the first row gets the start colour.
+// The first whole coordinate of diagonal band `band` among 256 bands, each
+// length / 255 long, along a strip `length` long. A band covers the
+// coordinates from its first up to the next band's first, so a diagonal takes
+// the band its first point lies in: the corner gets the start colour.
 int bandStart(int band, int length) {
     return (band * length + kLastIndex - 1) / kLastIndex;
 }
 
-// 0, 90, 180, 270 and 360 degrees: bands across the square, straight.
+// 0, 90, 180, 270 and 360 degrees: bands across the square, straight. The
+// 256 bands are each S / 255 wide, so every row (or column) is overlapped by
+// about 255 / S of them, and the last band starts on the square's far edge,
+// outside it. A row shows one of the bands it overlaps, spread evenly from
+// the first band on the first row to the last band inside the square (254)
+// on the last row: the start side gets the start colour and the far side a
+// colour next to the end colour, on every icon size.
 void drawStraight(Plane& picture, int angle, const Ramp& ramp) {
     const int size = picture.width();
     const bool upright = angle % 180 == 0; // vertical bands, running left to right
     const bool reversed = angle == 180 || angle == 270;
-    for (int band = 0; band <= kLastIndex; ++band) {
+    constexpr int kLastInside = kLastIndex - 1;
+    for (int k = 0; k < size; ++k) {
+        const int band = (2 * k * kLastInside + size - 1) / (2 * (size - 1));
         const Colour colour = ramp.at(reversed ? kLastIndex - band : band);
-        const int first = bandStart(band, size), next = bandStart(band + 1, size);
         if (upright)
-            fillRect(picture, first, 0, next, size, colour);
+            fillRect(picture, k, 0, k + 1, size, colour);
         else
-            fillRect(picture, 0, first, size, next, colour);
+            fillRect(picture, 0, k, size, k + 1, colour);
     }
 }
 

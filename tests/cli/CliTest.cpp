@@ -146,13 +146,11 @@ TEST_F(CliTest, ExitCodesAndOneLineOnStderr) {
     EXPECT_TRUE(cli({"info", missing, good}).out.startsWith(good + "\t0\t16x16\t24\ticon\t-\n"));
     EXPECT_FALSE(QFile::exists(path("never.ico")));
     EXPECT_FALSE(QFile::exists(path("never.icl")));
-#ifdef BREVIK_EDITOR
     EXPECT_EQ(run(BREVIK_EDITOR, {"--help"}).code, 0);
     EXPECT_TRUE(run(BREVIK_EDITOR, {"--help"}).out.startsWith("Usage: brevik"));
     const Outcome bad = run(BREVIK_EDITOR, {"--bogus"});
     EXPECT_EQ(bad.code, 2);
     EXPECT_EQ(bad.err, "brevik: unknown option --bogus (see brevik --help)\n");
-#endif
 }
 
 // A picture whose pixels tell apart opaque, transparent and many colours.

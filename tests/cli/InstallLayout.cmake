@@ -18,10 +18,8 @@ set(expected
   share/man/man1/brevik.1
   share/man/man1/brevik-cli.1
   share/brevik/brevik.icl
-  lib/brevik/brevik-cli-pictures.so)
-if(WITH_EDITOR)
-  list(APPEND expected bin/brevik)
-endif()
+  lib/brevik/brevik-cli-pictures.so
+  bin/brevik)
 foreach(file ${expected})
   if(NOT EXISTS ${root}/${file})
     message(FATAL_ERROR "not installed: ${file}")

@@ -31,15 +31,16 @@ TEST(GradientFill, TheRampStepsEachChannelTowardsTheEndColour) {
 }
 
 TEST(GradientFill, LinearBandsRunFromTheStartSideTheAngleNames) {
-    // Size, angle, pixel, ramp index there. A pixel takes the band its top or
-    // left edge lies in; a diagonal pixel on x + y = m the band of m + 1 of 96.
+    // Size, angle, pixel, ramp index there. Straight rows and columns spread
+    // the bands 0 to 254 evenly; a diagonal pixel on x + y = m takes the band
+    // of m + 1 of 96.
     const std::tuple<int, int, int, int, int> cases[] = {
-        {16, 0, 0, 9, 0},      {16, 0, 15, 3, 239},   {16, 0, 8, 0, 127},   {16, 90, 5, 0, 0},
-        {16, 90, 5, 15, 239},  {16, 90, 15, 7, 111},  {16, 180, 0, 4, 255}, {16, 180, 15, 4, 16},
-        {16, 270, 4, 0, 255},  {16, 270, 4, 15, 16},  {16, 45, 0, 0, 2},    {16, 45, 15, 15, 82},
+        {16, 0, 0, 9, 0},      {16, 0, 15, 3, 254},   {16, 0, 8, 0, 135},   {16, 90, 5, 0, 0},
+        {16, 90, 5, 15, 254},  {16, 90, 15, 7, 119},  {16, 180, 0, 4, 255}, {16, 180, 15, 4, 1},
+        {16, 270, 4, 0, 255},  {16, 270, 4, 15, 1},  {16, 45, 0, 0, 2},    {16, 45, 15, 15, 82},
         {16, 45, 15, 0, 42},   {16, 45, 0, 15, 42},   {16, 135, 15, 0, 2},  {16, 135, 0, 15, 82},
         {16, 225, 15, 15, 2},  {16, 225, 0, 0, 82},   {16, 315, 0, 15, 2},  {16, 315, 15, 0, 82},
-        {32, 45, 31, 31, 167}, {48, 45, 47, 47, 252}, {48, 90, 0, 47, 249},
+        {32, 45, 31, 31, 167}, {48, 45, 47, 47, 252}, {48, 90, 0, 47, 254},
     };
     for (const auto& [size, angle, x, y, index] : cases) {
         const Plane picture = linear(size, angle, kGrey);

@@ -6,7 +6,7 @@
 // brevik-cli info [--json] FILE...: one line per image of every icon the
 // files hold (icon files, executables and libraries, icon libraries,
 // animated cursors): file, icon/index, size, depth, kind, hot spot.
-class InfoCommand {
+class InfoVerb {
   public:
     static int run(const CommandLine& line, CliReport& report);
 };

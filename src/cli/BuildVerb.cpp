@@ -1,4 +1,4 @@
-#include "cli/BuildCommand.h"
+#include "cli/BuildVerb.h"
 
 #include "fileio/ModFileIO.h"
 #include "fileio/MultiIconResource.h"
@@ -28,7 +28,7 @@ QString refusal(Outcome outcome, const QString& path) {
 
 } // namespace
 
-int BuildCommand::run(const CommandLine& line, CliReport& report) {
+int BuildVerb::run(const CommandLine& line, CliReport& report) {
     if (line.files.size() < 2)
         return report.usage(QStringLiteral("build needs an output file and at least one icon"));
     const QString& out = line.files.front();

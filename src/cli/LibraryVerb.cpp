@@ -1,11 +1,11 @@
-#include "cli/LibraryCommand.h"
+#include "cli/LibraryVerb.h"
 
 #include "fileio/ModFileIO.h"
 #include "fileio/NeLibraryWriter.h"
 
 #include <QFileInfo>
 
-int LibraryCommand::run(const CommandLine& line, CliReport& report) {
+int LibraryVerb::run(const CommandLine& line, CliReport& report) {
     if (line.files.size() < 2)
         return report.usage(QStringLiteral("library needs an output file and at least one icon"));
     const QString& out = line.files.front();

@@ -1,4 +1,4 @@
-#include "cli/ConvertCommand.h"
+#include "cli/ConvertVerb.h"
 
 #include "cli/IconFit.h"
 #include "cli/PictureReader.h"
@@ -22,7 +22,7 @@ std::optional<int> number(const QString& text) {
 
 } // namespace
 
-int ConvertCommand::run(const CommandLine& line, CliReport& report) {
+int ConvertVerb::run(const CommandLine& line, CliReport& report) {
     if (line.files.size() != 2)
         return report.usage(QStringLiteral("convert takes one input and one output file"));
     const QString& in = line.files[0];

@@ -5,7 +5,7 @@
 
 // brevik-cli build OUT.ico ICON.ico...: the multi icon builder's Open for
 // each file in turn, then its Create, giving the same bytes.
-class BuildCommand {
+class BuildVerb {
   public:
     static int run(const CommandLine& line, CliReport& report);
 };

@@ -1,4 +1,4 @@
-#include "cli/InfoCommand.h"
+#include "cli/InfoVerb.h"
 
 #include "fileio/IconDirectory.h"
 #include "fileio/IconSourceOpener.h"
@@ -62,7 +62,7 @@ QByteArray textLine(const QByteArray& file, const QString& name, int index, cons
 
 } // namespace
 
-int InfoCommand::run(const CommandLine& line, CliReport& report) {
+int InfoVerb::run(const CommandLine& line, CliReport& report) {
     const bool json = line.has("--json");
     QJsonArray all;
     for (const QString& path : line.files) {

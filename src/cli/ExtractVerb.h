@@ -7,7 +7,7 @@
 // as an .ico (or .cur) of its own, named after the file and the icon, its
 // images byte for byte as stored; with --size 32 the 32 x 32 picture the
 // editor's Extract gives, written as Save As would.
-class ExtractCommand {
+class ExtractVerb {
   public:
     static int run(const CommandLine& line, CliReport& report);
 };

@@ -1,4 +1,4 @@
-#include "cli/ExtractCommand.h"
+#include "cli/ExtractVerb.h"
 
 #include "fileio/IcoFile.h"
 #include "fileio/IconSourceOpener.h"
@@ -20,7 +20,7 @@ QString fileNamePart(QString name) {
 
 } // namespace
 
-int ExtractCommand::run(const CommandLine& line, CliReport& report) {
+int ExtractVerb::run(const CommandLine& line, CliReport& report) {
     const auto size = line.value("--size");
     if (size && *size != "32")
         return report.usage(QStringLiteral("extract --size takes only 32, the size Extract gives"));
