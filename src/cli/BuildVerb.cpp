@@ -1,32 +1,10 @@
 #include "cli/BuildVerb.h"
 
 #include "fileio/ModFileIO.h"
+#include "fileio/MultiIconBuilder.h"
 #include "fileio/MultiIconResource.h"
 
-namespace {
-
 using Outcome = MultiIconResource::AddOutcome;
-
-// The builder's message for a file it did not take, on one line; the
-// window's hint about right-clicking to delete has no place here.
-QString refusal(Outcome outcome, const QString& path) {
-    switch (outcome) {
-    case Outcome::LimitReached:
-        return path + QStringLiteral(": A maximum of ten icons has been reached.");
-    case Outcome::NotAnIcon:
-        return path + QStringLiteral(" is not a valid icon file.");
-    case Outcome::NoImages:
-        return QStringLiteral("Unable to read data from ") + path;
-    case Outcome::MultiImage:
-        return path + QStringLiteral(" is a multi icon resource. Only single icons can be loaded.");
-    case Outcome::CannotLoad:
-    case Outcome::Added:
-        break;
-    }
-    return path + QStringLiteral(": Unable to load icon.");
-}
-
-} // namespace
 
 int BuildVerb::run(const CommandLine& line, CliReport& report) {
     if (line.files.size() < 2)
@@ -41,8 +19,11 @@ int BuildVerb::run(const CommandLine& line, CliReport& report) {
             continue;
         }
         const Outcome outcome = resource.add(*bytes).outcome;
-        if (outcome != Outcome::Added)
-            report.fail(refusal(outcome, path));
+        if (outcome == Outcome::Added)
+            continue;
+        // The builder's own words; those that do not name the file get it.
+        const QString message = MultiIconBuilder::addMessage(outcome, path);
+        report.fail(message.contains(path) ? message : path + QStringLiteral(": ") + message);
     }
     // Create is offered only once a slot is filled.
     if (resource.filledCount() == 0 || !ModFileIO::saveFile(out, resource.toBytes()))
