@@ -4,6 +4,7 @@
 // uses. Any crash, hang, sanitizer report or broken promise about the result
 // is a finding: a source or a typed fault, never both; every icon 32 x 32
 // with a two-colour mask, or a failure with empty planes.
+#include "fileio/IconLayout.h"
 #include "fileio/IconSourceOpener.h"
 
 #include <cstdint>
@@ -35,6 +36,14 @@ template <typename Reader> int fuzzIconSource(const std::uint8_t* data, std::siz
     // Far fewer icons than bytes: a count is never taken on trust.
     check(source->count() <= static_cast<int>(size));
     for (int i = 0; i < source->count() && i < 64; ++i) {
+        // An icon given whole opens with a directory and stays within the
+        // size of any icon file, however often its group names one image.
+        if (const auto stored = source->storedFile(i)) {
+            const ByteView in(*stored);
+            check(in.contains(0, 6) && in.u16(0) == 0 && (in.u16(2) == 1 || in.u16(2) == 2));
+            check(stored->size() <= IconLayout::kMaxFileBytes);
+        }
+        source->name(i);
         const IconLoadResult r = source->image(i);
         if (!r.ok()) {
             check(r.fault != ReadFault::None && r.mask.isEmpty() && r.image.isEmpty());

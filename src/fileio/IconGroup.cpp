@@ -1,6 +1,7 @@
 #include "fileio/IconGroup.h"
 
 #include "fileio/ByteWriter.h"
+#include "fileio/IconLayout.h"
 
 #include <cstdlib>
 
@@ -81,6 +82,10 @@ std::optional<QByteArray> IconGroup::toFile(const QByteArray& bytes, qint64 offs
         w.u32(static_cast<quint32>(m.length));
         w.u32(static_cast<quint32>(imageAt));
         imageAt += m.length;
+        // A group may name one large image thousands of times; no icon file
+        // this program reads is larger than this.
+        if (imageAt > IconLayout::kMaxFileBytes)
+            return std::nullopt;
     }
     for (const GroupMember& m : members)
         out += bytes.mid(m.offset, m.length);

@@ -41,7 +41,8 @@ class IconGroup {
     // members' images: the header with the members' count, each entry's
     // first 8 bytes as stored, then its image's length and offset in the new
     // file, then the images copied byte for byte. The members' offset and
-    // length say where each image lies; nullopt when one lies outside bytes.
+    // length say where each image lies; nullopt when one lies outside bytes
+    // or the file would be larger than any icon file (kMaxFileBytes).
     static std::optional<QByteArray> toFile(const QByteArray& bytes, qint64 offset, int entryBytes,
                                             const std::vector<GroupMember>& members);
 };
