@@ -1,8 +1,8 @@
 #include "cli/ExtractVerb.h"
 
+#include "cli/ParallelSaver.h"
 #include "fileio/IcoFile.h"
 #include "fileio/IconSourceOpener.h"
-#include "fileio/ModFileIO.h"
 #include "fileio/ModPalette.h"
 
 #include <QDir>
@@ -37,6 +37,7 @@ int ExtractVerb::run(const CommandLine& line, CliReport& report) {
             continue;
         }
         const QString base = QFileInfo(path).completeBaseName() + QLatin1Char('_');
+        std::vector<std::pair<QString, QByteArray>> outputs;
         for (int icon = 0; icon < opened.source->count(); ++icon) {
             const QString name = opened.source->name(icon);
             const QString stem = folder.filePath(base + fileNamePart(name.isEmpty() ? "1" : name));
@@ -55,9 +56,13 @@ int ExtractVerb::run(const CommandLine& line, CliReport& report) {
             if (bytes.isEmpty())
                 report.fail(QStringLiteral("An error occurred while loading ") + path + " (" +
                             (name.isEmpty() ? QStringLiteral("1") : name) + ")");
-            else if (!ModFileIO::saveFile(stem + suffix, bytes))
-                report.fail(QStringLiteral("Unable to save the file ") + stem + suffix);
+            else
+                outputs.emplace_back(stem + suffix, std::move(bytes));
         }
+        const std::vector<bool> saved = ParallelSaver::saveAll(outputs);
+        for (std::size_t i = 0; i < outputs.size(); ++i)
+            if (!saved[i])
+                report.fail(QStringLiteral("Unable to save the file ") + outputs[i].first);
     }
     return report.status();
 }
