@@ -5,6 +5,7 @@
 #include "dialogs/FrmMultiIconDialog.h"
 #include "dialogs/FrmColAdj.h"
 #include "dialogs/FrmGrad.h"
+#include "dialogs/FrmIcons.h"
 
 #include <QFileDialog>
 #include <QFileInfo>
@@ -144,4 +145,13 @@ std::optional<Plane> QtUserDialogs::chooseGradient(int size) {
     if (dialog.cancelled())
         return std::nullopt;
     return dialog.gradient();
+}
+
+std::optional<ExtractedIconChoice> QtUserDialogs::chooseExtractedIcon(const QString& startFile,
+                                                                      QString& recentFolder) {
+    FrmIcons dialog(startFile, *this, recentFolder, owner_);
+    dialog.exec();
+    if (dialog.cancelled())
+        return std::nullopt;
+    return dialog.choice();
 }

@@ -21,6 +21,8 @@ class QtUserDialogs : public EditorDialogs {
     std::optional<HotSpot> chooseHotSpot(const Plane& canvas, int zoom, int maxIndex) override;
     bool adjustColours(ColourAdjustment& adjustment) override;
     std::optional<Plane> chooseGradient(int size) override;
+    std::optional<ExtractedIconChoice> chooseExtractedIcon(const QString& startFile,
+                                                           QString& recentFolder) override;
 
     // The file dialog of a mode, set up but not shown: title, filters,
     // default extension, overwrite confirmation and starting folder.

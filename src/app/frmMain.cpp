@@ -6,6 +6,7 @@
 #include "app/QtClipboard.h"
 #include "app/QtUserDialogs.h"
 #include "dialogs/FrmMir.h"
+#include "fileio/ShellLibrary.h"
 #include "widgets/PictureBox.h"
 #include "widgets/ToolIcons.h"
 #include "widgets/WindowPlacement.h"
@@ -185,6 +186,8 @@ void frmMain::connectMenus() {
                 [this, i] { run([&] { editor_.newIcon(i); }); });
     connect(menus.MnuOpen, &QAction::triggered, this,
             [this] { run([&] { editor_.files().open(); }); });
+    connect(menus.MnuExtract, &QAction::triggered, this,
+            [this] { run([&] { editor_.extraction().run(); }); });
     connect(menus.MnuSave, &QAction::triggered, this,
             [this] { run([&] { editor_.files().save(); }); });
     connect(menus.MnuSaveAs, &QAction::triggered, this,
@@ -281,6 +284,7 @@ void frmMain::showAbout() {
 
 void frmMain::startUp(const QString& commandLine) {
     editor_.startUp(); // the stored settings, the palettes and a new 32 x 32 icon
+    editor_.extraction().startFile = ShellLibrary::locate();
     syncFromCore();
     refreshRecentMenu();
     menus.MnuExit->setText(menus.MnuExit->text() + QStringLiteral("\tAlt+F4"));

@@ -1,4 +1,5 @@
 #include "app/frmMain.h"
+#include "imaging/QtPngDecoder.h"
 #include "widgets/ToolIcons.h"
 
 #include <QApplication>
@@ -44,6 +45,8 @@ int main(int argc, char** argv) {
     QApplication app(argc, argv);
     qInstallMessageHandler(previous);
     QApplication::setWindowIcon(ToolIcons::icon(1));
+    const QtPngDecoder png;
+    PngDecoder::install(&png);
 
     frmMain window;
     // The command line is one path, taken as it stands.

@@ -25,6 +25,8 @@ class ByteView {
         return static_cast<quint32>(u16(offset)) | static_cast<quint32>(u16(offset + 2)) << 16;
     }
     qint32 i32(qint64 offset) const { return static_cast<qint32>(u32(offset)); }
+    // A copy of [offset, offset + length), which the caller has checked.
+    QByteArray mid(qint64 offset, qint64 length) const { return bytes_.mid(offset, length); }
 
   private:
     const QByteArray& bytes_;

@@ -2,6 +2,7 @@
 
 #include "fileio/IconDecoder.h"
 #include "fileio/IconLayout.h"
+#include "platform/PngDecoder.h"
 #include "platform/Raster.h"
 
 using namespace IconLayout;
@@ -43,6 +44,34 @@ void hideFaintPixels(const ByteView& bytes, qint64 rowsOffset, int size, Plane& 
         }
 }
 
+// A PNG image's planes: alpha below one half is transparent, the rest opaque
+// with its colour weighted by alpha, as for a 32-bit bitmap with alpha.
+IconLoadResult fromPng(const ByteView& bytes, const GroupMember& member) {
+    const PngDecoder* decoder = PngDecoder::installed();
+    const std::optional<Plane> pixels =
+        decoder ? decoder->decode(bytes.mid(member.offset, member.length), kLargestSide)
+                : std::nullopt;
+    if (!pixels || pixels->width() != pixels->height())
+        return failure(ReadFault::Unsupported);
+    const int size = pixels->width();
+    IconLoadResult result;
+    result.mask.reset(size, size, kWhite);
+    result.image.reset(size, size, kBlack);
+    for (int y = 0; y < size; ++y)
+        for (int x = 0; x < size; ++x) {
+            const Colour pixel = pixels->pixel(x, y);
+            const int alpha = static_cast<int>(pixel >> 24);
+            if (alpha < 128)
+                continue;
+            const auto scale = [alpha](int channel) { return (channel * alpha + 127) / 255; };
+            result.mask.setPixel(x, y, kBlack);
+            result.image.setPixel(
+                x, y, rgb(scale(redOf(pixel)), scale(greenOf(pixel)), scale(blueOf(pixel))));
+        }
+    result.status = LoadStatus::Ok;
+    return result;
+}
+
 Plane stretched(const Plane& source) {
     if (source.width() == ExtractedImage::kSize)
         return source;
@@ -52,14 +81,8 @@ Plane stretched(const Plane& source) {
     return out;
 }
 
-} // namespace
-
-IconLoadResult ExtractedImage::decode(const ByteView& bytes, const GroupMember& member) {
-    if (!bytes.contains(member.offset, member.length))
-        return failure(ReadFault::OutOfBounds);
-    // PNG-compressed images need an image library the core does not link.
-    if (isPng(bytes, member.offset))
-        return failure(ReadFault::Unsupported);
+// A bitmap image's planes at its own size.
+IconLoadResult fromBitmap(const ByteView& bytes, const GroupMember& member) {
     const auto info = readInfoHeader(bytes, member.offset);
     if (!info)
         return failure(ReadFault::OutOfBounds);
@@ -84,11 +107,23 @@ IconLoadResult ExtractedImage::decode(const ByteView& bytes, const GroupMember& 
         return failure(ReadFault::OutOfBounds);
     if (depth == 32)
         hideFaintPixels(bytes, rowsOffset, size, result.mask, result.image);
+    result.status = LoadStatus::Ok;
+    return result;
+}
+
+} // namespace
+
+IconLoadResult ExtractedImage::decode(const ByteView& bytes, const GroupMember& member) {
+    if (!bytes.contains(member.offset, member.length))
+        return failure(ReadFault::OutOfBounds);
+    IconLoadResult result =
+        isPng(bytes, member.offset) ? fromPng(bytes, member) : fromBitmap(bytes, member);
+    if (!result.ok())
+        return result;
     result.mask = stretched(result.mask);
     result.image = stretched(result.image);
     result.width = kSize;
     result.height = kSize;
-    result.status = LoadStatus::Ok;
     return result;
 }
 

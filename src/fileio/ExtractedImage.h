@@ -13,7 +13,8 @@ class ExtractedImage {
     static constexpr int kSize = 32;
 
     // The member's data decoded at its own size, 1 to 256 pixels square and
-    // 1, 4, 8, 24 or 32 bits, then stretched to 32 x 32 pixel for pixel.
+    // 1, 4, 8, 24 or 32 bits or PNG (through the installed PngDecoder), then
+    // stretched to 32 x 32 pixel for pixel.
     // Where a 32-bit image has alpha, alpha below 128 is transparent (mask
     // white, colour black) and the colour elsewhere is weighted by alpha, as
     // drawing the icon over the new document's black colour plane shows it.

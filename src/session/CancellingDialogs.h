@@ -14,6 +14,9 @@ class CancellingDialogs : public EditorDialogs {
     std::optional<FileChoice> chooseFile(FileDialogMode, const QString&) override { return {}; }
     int chooseIconLine(const QStringList&) override { return -1; }
     std::optional<HotSpot> chooseHotSpot(const Plane&, int, int) override { return {}; }
+    std::optional<ExtractedIconChoice> chooseExtractedIcon(const QString&, QString&) override {
+        return {};
+    }
     int choosePasteOption() override { return -1; }
     bool adjustColours(ColourAdjustment&) override { return false; }
     std::optional<Plane> chooseGradient(int) override { return {}; }

@@ -19,7 +19,8 @@ std::function<double()> clockSeededRandom() {
 Editor::Editor(EditorDialogs& dialogs, ClipboardService& clipboard)
     : services_(dialogs, clipboard), selection_(*this, dialogs),
       tools_(*this, colours_, pickers_.PicPal, readouts_),
-      files_(*this, dialogs, recent_, recentFolder_), operations_(*this, dialogs) {
+      files_(*this, dialogs, recent_, recentFolder_), operations_(*this, dialogs),
+      extraction_(*this, dialogs, recentFolder_) {
     services_.random = clockSeededRandom();
 }
 

@@ -6,6 +6,7 @@
 #include "editing/EditContext.h"
 #include "editing/ModUndoRedo.h"
 #include "editing/Selection.h"
+#include "fileio/ExtractCommand.h"
 #include "fileio/FileCommands.h"
 #include "operations/Operations.h"
 #include "platform/Services.h"
@@ -73,6 +74,7 @@ class Editor final : public EditContext {
     DrawingTools& tools() { return tools_; }
     FileCommands& files() { return files_; }
     Operations& operations() { return operations_; }
+    ExtractCommand& extraction() { return extraction_; }
     ModRecent& recent() { return recent_; }
     // The store of the recent files and folder; a test points it elsewhere.
     ModRegistry& registry() { return registry_; }
@@ -98,4 +100,5 @@ class Editor final : public EditContext {
     QString recentFolder_;
     FileCommands files_;
     Operations operations_;
+    ExtractCommand extraction_;
 };

@@ -53,3 +53,9 @@ std::optional<Plane> ScriptedDialogs::chooseGradient(int size) {
     gradientSizes.push_back(size);
     return takeOr(gradients, std::optional<Plane>());
 }
+
+std::optional<ExtractedIconChoice> ScriptedDialogs::chooseExtractedIcon(const QString& startFile,
+                                                                        QString&) {
+    extractStartFiles.push_back(startFile);
+    return takeOr(extractedIcons, std::optional<ExtractedIconChoice>());
+}

@@ -24,6 +24,8 @@ class ScriptedDialogs : public EditorDialogs {
     std::optional<HotSpot> chooseHotSpot(const Plane& canvas, int zoom, int maxIndex) override;
     bool adjustColours(ColourAdjustment& adjustment) override;
     std::optional<Plane> chooseGradient(int size) override;
+    std::optional<ExtractedIconChoice> chooseExtractedIcon(const QString& startFile,
+                                                           QString& recentFolder) override;
 
     // Scripted answers, used first to last.
     std::deque<PromptAnswer> prompts;
@@ -35,6 +37,7 @@ class ScriptedDialogs : public EditorDialogs {
     std::deque<std::function<bool(ColourAdjustment&)>> colourAdjustments;
     // The gradient pictures "Gradient" answers with; nothing is Cancel.
     std::deque<std::optional<Plane>> gradients;
+    std::deque<std::optional<ExtractedIconChoice>> extractedIcons;
 
     // What was asked.
     std::vector<Message> messages;
@@ -46,4 +49,5 @@ class ScriptedDialogs : public EditorDialogs {
     int hotSpotDialogs = 0;
     int colourAdjustDialogs = 0;
     std::vector<int> gradientSizes;
+    std::vector<QString> extractStartFiles;
 };

@@ -1,0 +1,47 @@
+#include "imaging/QtPngDecoder.h"
+#include "fileio/IcoIconSource.h"
+
+#include <QBuffer>
+#include <QImage>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+TEST(QtPngDecoderTest, APngImageGivesPlanesLikeA32BitImageWithAlpha) {
+    // Four 32 x 32 quadrants, shrunk to 16 x 16 each: opaque, clear, two
+    // thirds opaque (weighted by alpha) and just under half (clear).
+    const QRgb quadrants[4] = {qRgba(200, 100, 50, 255), qRgba(10, 20, 30, 0),
+                               qRgba(255, 128, 0, 170), qRgba(90, 90, 90, 127)};
+    QImage picture(64, 64, QImage::Format_ARGB32);
+    for (int y = 0; y < 64; ++y)
+        for (int x = 0; x < 64; ++x)
+            picture.setPixel(x, y, quadrants[(y / 32) * 2 + x / 32]);
+    QByteArray png;
+    QBuffer buffer(&png);
+    buffer.open(QIODevice::WriteOnly);
+    ASSERT_TRUE(picture.save(&buffer, "PNG"));
+    // A one-image icon file: the directory, then the PNG at offset 22.
+    const auto length = static_cast<char>(png.size() & 0xFF),
+               high = static_cast<char>(png.size() >> 8);
+    const char directory[22] = {0, 0, 1,  0, 1,      0,    64, 64, 0, 0,
+                                1, 0, 32, 0, length, high, 0,  0,  22};
+    const IcoIconSource icon(QByteArray(directory, 22) + png);
+
+    PngDecoder::install(nullptr);
+    EXPECT_FALSE(icon.image(0).ok());
+    const QtPngDecoder decoder;
+    PngDecoder::install(&decoder);
+    const IconLoadResult got = icon.image(0);
+    PngDecoder::install(nullptr);
+    ASSERT_TRUE(got.ok());
+    const std::pair<Colour, Colour> want[4] = {
+        {rgb(200, 100, 50), kBlack}, {kBlack, kWhite}, {rgb(170, 85, 0), kBlack}, {kBlack, kWhite}};
+    for (int y = 0; y < 32; ++y)
+        for (int x = 0; x < 32; ++x)
+            ASSERT_EQ(std::pair(got.image.pixel(x, y), got.mask.pixel(x, y)),
+                      want[(y / 16) * 2 + x / 16])
+                << x << ", " << y;
+}
+
+} // namespace
