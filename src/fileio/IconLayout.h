@@ -17,6 +17,11 @@ constexpr qint64 kInfoHeaderBytes = 40;
 // icon of ten 48 x 48 true-colour images is under 80 KB, and even files with
 // large modern images stay far below it. Larger input is refused unread.
 constexpr qint64 kMaxFileBytes = 16 * 1024 * 1024;
+// Executables and libraries that hold icons are much larger (a system's
+// image library can pass 50 MB); their readers touch only the resource
+// directory and the icons it names, but the file is read whole, so it still
+// has a bound.
+constexpr qint64 kMaxLibraryBytes = 256 * 1024 * 1024;
 
 struct DirHeader {
     int reserved = 0;

@@ -23,7 +23,7 @@ IconSourceOpener::Opened IconSourceOpener::open(QByteArray bytes) {
 
 IconSourceOpener::Opened IconSourceOpener::openFile(const QString& path) {
     ReadFault fault = ReadFault::None;
-    auto bytes = ModFileIO::readFile(path, &fault);
+    auto bytes = ModFileIO::readLibraryFile(path, &fault);
     if (!bytes) {
         Opened opened;
         opened.fault = fault;

@@ -20,9 +20,10 @@ constexpr qint64 kHeadBytes = IconLayout::kHeaderBytes + IconLayout::kEntryBytes
 
 // The whole of a regular file. Devices, pipes and directories are refused
 // before they are opened, so a read can neither block nor run on. A file
-// larger than any icon file is refused too, though its head is read into
-// *head when asked for.
-std::optional<QByteArray> readWhole(const QString& path, ReadFault* fault, QByteArray* head) {
+// larger than limit is refused too, though its head is read into *head when
+// asked for.
+std::optional<QByteArray> readWhole(const QString& path, qint64 limit, ReadFault* fault,
+                                    QByteArray* head) {
     const auto fail = [fault](ReadFault f) -> std::optional<QByteArray> {
         if (fault)
             *fault = f;
@@ -36,7 +37,7 @@ std::optional<QByteArray> readWhole(const QString& path, ReadFault* fault, QByte
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return fail(ReadFault::Unreadable);
-    if (info.size() > IconLayout::kMaxFileBytes) {
+    if (info.size() > limit) {
         if (head)
             *head = file.read(kHeadBytes);
         return fail(ReadFault::TooLarge);
@@ -44,7 +45,7 @@ std::optional<QByteArray> readWhole(const QString& path, ReadFault* fault, QByte
     // Read at the size the file gives: asking for the limit would make a
     // buffer of the limit for every file. A file that tells no size (some
     // system files) is read up to the limit.
-    QByteArray bytes = file.read(info.size() > 0 ? info.size() : IconLayout::kMaxFileBytes);
+    QByteArray bytes = file.read(info.size() > 0 ? info.size() : limit);
     if (file.error() != QFileDevice::NoError)
         return fail(ReadFault::Unreadable);
     if (fault)
@@ -70,13 +71,17 @@ qint64 ModFileIO::maxFileBytes() {
 }
 
 std::optional<QByteArray> ModFileIO::readFile(const QString& path, ReadFault* fault) {
-    return readWhole(path, fault, nullptr);
+    return readWhole(path, IconLayout::kMaxFileBytes, fault, nullptr);
+}
+
+std::optional<QByteArray> ModFileIO::readLibraryFile(const QString& path, ReadFault* fault) {
+    return readWhole(path, IconLayout::kMaxLibraryBytes, fault, nullptr);
 }
 
 IcoFile ModFileIO::readIconFile(const QString& path) {
     ReadFault fault = ReadFault::None;
     QByteArray head;
-    auto bytes = readWhole(path, &fault, &head);
+    auto bytes = readWhole(path, IconLayout::kMaxFileBytes, &fault, &head);
     return bytes ? IcoFile(std::move(*bytes)) : IcoFile(head, fault);
 }
 

@@ -34,6 +34,10 @@ class ModFileIO {
 
     // The file's bytes, or nullopt when it cannot be read or is too large.
     static std::optional<QByteArray> readFile(const QString& path, ReadFault* fault = nullptr);
+    // The same for a file icons are extracted from, with the larger bound of
+    // executables and libraries (IconLayout::kMaxLibraryBytes).
+    static std::optional<QByteArray> readLibraryFile(const QString& path,
+                                                     ReadFault* fault = nullptr);
     static bool saveFile(const QString& path, const QByteArray& bytes);
     // How many reads of a file were asked for so far in this process, so
     // that tests can count the reads a command takes.

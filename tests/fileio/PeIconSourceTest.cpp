@@ -2,9 +2,12 @@
 #include "support/MultiIcon.h"
 #include "support/PeLibraryBuilder.h"
 
+#include "fileio/IconLayout.h"
 #include "fileio/IconSourceOpener.h"
 #include "fileio/PeIconSource.h"
 
+#include <QFile>
+#include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 namespace {
@@ -49,6 +52,20 @@ TEST(PeIconSourceTest, EveryGroupOfARealLibraryShowsItsBestImageInDirectoryOrder
         }
         EXPECT_FALSE(opened.source->image(4).ok());
     }
+}
+
+TEST(PeIconSourceTest, ALibraryLargerThanAnyIconFileStillOpensFromDisk) {
+    QTemporaryDir folder;
+    const QString path = folder.filePath("big.dll");
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(built("x86_64", Library()));
+    // Zeros after the last section, as an installer's payload would be.
+    ASSERT_TRUE(file.resize(IconLayout::kMaxFileBytes + 4096));
+    file.close();
+    const auto opened = IconSourceOpener::openFile(path);
+    ASSERT_TRUE(opened.source);
+    EXPECT_EQ(opened.source->count(), 4);
 }
 
 qint64 resourceRoot(const QByteArray& dll) {
