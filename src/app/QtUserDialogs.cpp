@@ -1,9 +1,11 @@
 #include "app/QtUserDialogs.h"
 
-#include "dialogs/FrmPaste.h"
+#include "dialogs/FrmColAdj.h"
 #include "dialogs/FrmHotSpot.h"
 #include "dialogs/FrmMultiIconDialog.h"
-#include "dialogs/FrmColAdj.h"
+#include "dialogs/FrmPaste.h"
+#include "dialogs/FrmSnap.h"
+#include "dialogs/FrmTxt.h"
 
 #include <QFileDialog>
 #include <QFileInfo>
@@ -135,4 +137,16 @@ bool QtUserDialogs::adjustColours(ColourAdjustment& adjustment) {
     FrmColAdj dialog(adjustment, owner_);
     dialog.exec();
     return !dialog.cancelled();
+}
+
+std::optional<TextPlanes> QtUserDialogs::addText(int size) {
+    FrmTxt dialog(size, owner_);
+    dialog.exec();
+    return dialog.acceptedText();
+}
+
+std::optional<Plane> QtUserDialogs::captureScreen(int iconSize) {
+    FrmSnap window(FrmSnap::grabScreens(), FrmSnap::desktopTopLeft(), iconSize, owner_);
+    window.exec();
+    return window.taken();
 }

@@ -20,6 +20,8 @@ class QtUserDialogs : public EditorDialogs {
     int choosePasteOption() override;
     std::optional<HotSpot> chooseHotSpot(const Plane& canvas, int zoom, int maxIndex) override;
     bool adjustColours(ColourAdjustment& adjustment) override;
+    std::optional<TextPlanes> addText(int size) override;
+    std::optional<Plane> captureScreen(int iconSize) override;
 
     // The file dialog of a mode, set up but not shown: title, filters,
     // default extension, overwrite confirmation and starting folder.

@@ -16,4 +16,6 @@ class CancellingDialogs : public EditorDialogs {
     std::optional<HotSpot> chooseHotSpot(const Plane&, int, int) override { return {}; }
     int choosePasteOption() override { return -1; }
     bool adjustColours(ColourAdjustment&) override { return false; }
+    std::optional<TextPlanes> addText(int) override { return {}; }
+    std::optional<Plane> captureScreen(int) override { return {}; }
 };

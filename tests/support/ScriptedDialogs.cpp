@@ -48,3 +48,13 @@ bool ScriptedDialogs::adjustColours(ColourAdjustment& adjustment) {
     const auto user = takeOr(colourAdjustments, std::function<bool(ColourAdjustment&)>());
     return user && user(adjustment);
 }
+
+std::optional<TextPlanes> ScriptedDialogs::addText(int size) {
+    textSizes.push_back(size);
+    return takeOr(texts, std::optional<TextPlanes>());
+}
+
+std::optional<Plane> ScriptedDialogs::captureScreen(int iconSize) {
+    captureSizes.push_back(iconSize);
+    return takeOr(captures, std::optional<Plane>());
+}

@@ -23,6 +23,8 @@ class ScriptedDialogs : public EditorDialogs {
     int choosePasteOption() override;
     std::optional<HotSpot> chooseHotSpot(const Plane& canvas, int zoom, int maxIndex) override;
     bool adjustColours(ColourAdjustment& adjustment) override;
+    std::optional<TextPlanes> addText(int size) override;
+    std::optional<Plane> captureScreen(int iconSize) override;
 
     // Scripted answers, used first to last.
     std::deque<PromptAnswer> prompts;
@@ -32,6 +34,8 @@ class ScriptedDialogs : public EditorDialogs {
     std::deque<std::optional<HotSpot>> hotSpots;
     // A user at "Color Adjustment": moves the spinners, answers true for Ok.
     std::deque<std::function<bool(ColourAdjustment&)>> colourAdjustments;
+    std::deque<std::optional<TextPlanes>> texts;
+    std::deque<std::optional<Plane>> captures;
 
     // What was asked.
     std::vector<Message> messages;
@@ -42,4 +46,6 @@ class ScriptedDialogs : public EditorDialogs {
     int pasteDialogs = 0;
     int hotSpotDialogs = 0;
     int colourAdjustDialogs = 0;
+    std::vector<int> textSizes;
+    std::vector<int> captureSizes;
 };
