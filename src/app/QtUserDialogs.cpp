@@ -1,11 +1,13 @@
 #include "app/QtUserDialogs.h"
 
-#include "dialogs/FrmPaste.h"
-#include "dialogs/FrmHotSpot.h"
-#include "dialogs/FrmMultiIconDialog.h"
 #include "dialogs/FrmColAdj.h"
 #include "dialogs/FrmGrad.h"
+#include "dialogs/FrmHotSpot.h"
 #include "dialogs/FrmIcons.h"
+#include "dialogs/FrmMultiIconDialog.h"
+#include "dialogs/FrmPaste.h"
+#include "dialogs/FrmSnap.h"
+#include "dialogs/FrmTxt.h"
 
 #include <QFileDialog>
 #include <QFileInfo>
@@ -154,4 +156,16 @@ std::optional<ExtractedIconChoice> QtUserDialogs::chooseExtractedIcon(const QStr
     if (dialog.cancelled())
         return std::nullopt;
     return dialog.choice();
+}
+
+std::optional<TextPlanes> QtUserDialogs::addText(int size) {
+    FrmTxt dialog(size, owner_);
+    dialog.exec();
+    return dialog.acceptedText();
+}
+
+std::optional<Plane> QtUserDialogs::captureScreen(int iconSize) {
+    FrmSnap window(FrmSnap::grabScreens(), FrmSnap::desktopTopLeft(), iconSize, owner_);
+    window.exec();
+    return window.taken();
 }

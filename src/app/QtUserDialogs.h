@@ -23,6 +23,8 @@ class QtUserDialogs : public EditorDialogs {
     std::optional<Plane> chooseGradient(int size) override;
     std::optional<ExtractedIconChoice> chooseExtractedIcon(const QString& startFile,
                                                            QString& recentFolder) override;
+    std::optional<TextPlanes> addText(int size) override;
+    std::optional<Plane> captureScreen(int iconSize) override;
 
     // The file dialog of a mode, set up but not shown: title, filters,
     // default extension, overwrite confirmation and starting folder.

@@ -10,6 +10,8 @@
 #include "operations/GradientFill.h"
 #include "operations/ImageTransforms.h"
 #include "operations/OperationDialogs.h"
+#include "operations/ScreenCapture.h"
+#include "platform/Services.h"
 
 namespace {
 
@@ -131,12 +133,44 @@ void Operations::gradientTransparency() {
 void Operations::fxAction(FxAction item) {
     if (item == FxAction::Buttonize)
         buttonize();
+    else if (item == FxAction::AddText)
+        addText();
+    else if (item == FxAction::Capture)
+        capture();
 }
 
 void Operations::buttonize() {
     context_.commitSelection();
     IconDocument& doc = context_.doc();
     Buttonize::apply(doc.PicImage, doc.PicMask);
+    context_.refresh();
+    context_.recordEdit();
+}
+
+void Operations::addText() {
+    context_.commitSelection();
+    IconDocument& doc = context_.doc();
+    std::optional<TextPlanes> text = dialogs_.addText(doc.size);
+    if (!text)
+        return;
+    doc.PicSelImage = std::move(text->image);
+    doc.PicSelMask = std::move(text->mask);
+    // The text floats at the top-left corner for the user to drag; its undo
+    // record comes when it is committed.
+    context_.selection().PlaceFloating();
+    doc.modified = true;
+}
+
+void Operations::capture() {
+    context_.commitSelection();
+    // Menus close and the screen is repainted before it is frozen.
+    context_.services().letEventsRun();
+    IconDocument& doc = context_.doc();
+    if (const std::optional<Plane> square = dialogs_.captureScreen(doc.size))
+        ScreenCapture::take(*square, doc.PicImage, doc.PicMask);
+    // Refreshed and recorded on purpose even when nothing was taken: the
+    // command has one ending whatever the window did, and the identical state
+    // it then records costs one extra Undo step and nothing else.
     context_.refresh();
     context_.recordEdit();
 }

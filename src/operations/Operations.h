@@ -5,7 +5,7 @@
 class EditContext;
 class OperationDialogs;
 
-// The commands of the Image and Color menus and of Effects > Buttonize. Each
+// The commands of the Image, Color and Effects menus. Each
 // picks its target (the floating selection, else the marked area, else the
 // whole icon), changes the target's two planes, and finishes as the target
 // requires.
@@ -27,6 +27,8 @@ class Operations {
     void adjustColours();
     void gradientTransparency();
     void buttonize();
+    void addText();
+    void capture();
 
     EditContext& context_;
     OperationDialogs& dialogs_;

@@ -20,4 +20,6 @@ class CancellingDialogs : public EditorDialogs {
     int choosePasteOption() override { return -1; }
     bool adjustColours(ColourAdjustment&) override { return false; }
     std::optional<Plane> chooseGradient(int) override { return {}; }
+    std::optional<TextPlanes> addText(int) override { return {}; }
+    std::optional<Plane> captureScreen(int) override { return {}; }
 };

@@ -59,3 +59,13 @@ std::optional<ExtractedIconChoice> ScriptedDialogs::chooseExtractedIcon(const QS
     extractStartFiles.push_back(startFile);
     return takeOr(extractedIcons, std::optional<ExtractedIconChoice>());
 }
+
+std::optional<TextPlanes> ScriptedDialogs::addText(int size) {
+    textSizes.push_back(size);
+    return takeOr(texts, std::optional<TextPlanes>());
+}
+
+std::optional<Plane> ScriptedDialogs::captureScreen(int iconSize) {
+    captureSizes.push_back(iconSize);
+    return takeOr(captures, std::optional<Plane>());
+}

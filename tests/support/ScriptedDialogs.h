@@ -26,6 +26,8 @@ class ScriptedDialogs : public EditorDialogs {
     std::optional<Plane> chooseGradient(int size) override;
     std::optional<ExtractedIconChoice> chooseExtractedIcon(const QString& startFile,
                                                            QString& recentFolder) override;
+    std::optional<TextPlanes> addText(int size) override;
+    std::optional<Plane> captureScreen(int iconSize) override;
 
     // Scripted answers, used first to last.
     std::deque<PromptAnswer> prompts;
@@ -38,6 +40,8 @@ class ScriptedDialogs : public EditorDialogs {
     // The gradient pictures "Gradient" answers with; nothing is Cancel.
     std::deque<std::optional<Plane>> gradients;
     std::deque<std::optional<ExtractedIconChoice>> extractedIcons;
+    std::deque<std::optional<TextPlanes>> texts;
+    std::deque<std::optional<Plane>> captures;
 
     // What was asked.
     std::vector<Message> messages;
@@ -50,4 +54,6 @@ class ScriptedDialogs : public EditorDialogs {
     int colourAdjustDialogs = 0;
     std::vector<int> gradientSizes;
     std::vector<QString> extractStartFiles;
+    std::vector<int> textSizes;
+    std::vector<int> captureSizes;
 };
