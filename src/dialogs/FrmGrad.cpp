@@ -72,7 +72,15 @@ FrmGrad::FrmGrad(int size, QWidget* parent)
     LblAngle->setObjectName("LblAngle");
     LblAngle->setAlignment(Qt::AlignCenter);
     LblAngle->setGeometry(64, 44, 36, 15);
+    VsbAngle->setContextMenuPolicy(Qt::NoContextMenu);
     connect(VsbAngle, &QScrollBar::valueChanged, this, [this](int angle) {
+        // Dragging the handle or a touchpad's fine wheel steps can stop
+        // between the nine angles; the nearest one is taken.
+        const int step = GradientFill::kAngleStep;
+        if (angle % step != 0) {
+            VsbAngle->setValue((angle + step / 2) / step * step);
+            return;
+        }
         LblAngle->setText(QStringLiteral("%1").arg(angle, 3, 10, QLatin1Char('0')));
         schedulePreview();
     });

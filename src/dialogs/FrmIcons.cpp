@@ -109,9 +109,10 @@ void FrmIcons::showVisibleRows() {
 }
 
 void FrmIcons::wheelEvent(QWheelEvent* event) {
-    // The wheel over the grid scrolls it a row a notch, as over the bar.
+    // The wheel over the grid scrolls it a row a notch, as over the bar; a
+    // touchpad's finer steps scroll by as many pixels as their part of one.
     if (Vsb->isEnabled())
-        Vsb->setValue(Vsb->value() - event->angleDelta().y() / 120 * IconBrowser::kPitch);
+        Vsb->setValue(Vsb->value() - event->angleDelta().y() * IconBrowser::kPitch / 120);
     event->accept();
 }
 

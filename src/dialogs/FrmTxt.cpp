@@ -42,7 +42,10 @@ void drawText(QImage& picture, const QFont& font, const QColor& colour, const QS
     QPainter painter(&picture);
     painter.setFont(font);
     painter.setPen(colour);
-    painter.drawText(picture.rect(), Qt::AlignLeft | Qt::AlignTop, text);
+    // An ampersand marks the next character, as in a caption ("&&" draws
+    // one): intended, the text is drawn as a label's would be, while its
+    // width is measured as typed.
+    painter.drawText(picture.rect(), Qt::AlignLeft | Qt::AlignTop | Qt::TextShowMnemonic, text);
 }
 
 std::optional<QColor> systemChooser(QWidget* parent, const QColor& current) {
@@ -133,7 +136,9 @@ void FrmTxt::render() {
         while (metrics.horizontalAdvance(text) > size_) {
             text.chop(1);
             cut = true;
-            QCoreApplication::processEvents();
+            // Repaints run between characters; a click on Ok waits until the
+            // text is cut, so it takes the rendering of the text it shows.
+            QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
         }
         if (cut) {
             // The text is rendered below; the change needs no second rendering.

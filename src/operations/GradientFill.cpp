@@ -23,7 +23,8 @@ constexpr int kDiagonalLength = 2 * kScratch;
 // The first whole coordinate of diagonal band `band` among 256 bands, each
 // length / 255 long, along a strip `length` long. A band covers the
 // coordinates from its first up to the next band's first, so a diagonal takes
-// the band its first point lies in: the corner gets the start colour.
+// the band its first point lies in: the corner pixel, on the second line,
+// gets index 2, next to the start colour.
 int bandStart(int band, int length) {
     return (band * length + kLastIndex - 1) / kLastIndex;
 }

@@ -56,6 +56,9 @@ TEST(GradientDialog, TheChosenGradientGoesUnderTheTransparentPixelsOnOkOnly) {
             QTest::mouseClick(dialog->VsbAngle, Qt::LeftButton, {}, QPoint(8, 3));
             QTest::mouseClick(dialog->VsbAngle, Qt::LeftButton, {}, QPoint(8, 3));
             EXPECT_EQ(dialog->LblAngle->text(), "090");
+            // A drag that stops between angles takes the nearest one.
+            dialog->VsbAngle->setValue(110);
+            EXPECT_EQ(dialog->LblAngle->text(), "090");
             QApplication::processEvents();
             // At 90 degrees red along the top row of the preview.
             EXPECT_EQ(std::pair(colourAt(dialog->PicLinear, 20, 0), dialog->endColour()),
