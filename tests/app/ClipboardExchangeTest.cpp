@@ -34,19 +34,18 @@ class ClipboardExchangeTest : public ::testing::Test {
     frmMain window{&dialogs};
 };
 
-TEST_F(ClipboardExchangeTest, CopiedIconReachesOtherProgramsWithTransparentPixelsWhite) {
+TEST_F(ClipboardExchangeTest, CopiedIconReachesOtherProgramsWithItsColoursInOrder) {
     editor().doc().PicImage.setPixel(3, 2, rgb(200, 10, 20));
     editor().doc().PicMask.setPixel(3, 2, kBlack);
-    editor().doc().PicImage.setPixel(4, 2, rgb(0, 0, 255)); // inverting: white XOR blue
     keys(Qt::Key_T);
     keys(Qt::Key_C);
 
     const QImage copied = QApplication::clipboard()->image();
     ASSERT_EQ(copied.size(), QSize(32, 32));
+    // How each kind of pixel is copied is the core's (EditMenuTest); here
+    // that the picture reaches the system clipboard with its colours in order.
     EXPECT_EQ(copied.pixel(3, 2), qRgb(200, 10, 20));
-    EXPECT_EQ(copied.pixel(4, 2), qRgb(255, 255, 0));
     EXPECT_EQ(copied.pixel(0, 0), qRgb(255, 255, 255));
-    EXPECT_EQ(copied.pixel(31, 31), qRgb(255, 255, 255));
 }
 
 TEST_F(ClipboardExchangeTest, PictureFromAnotherProgramPastesFloatingWithWhiteTransparent) {
