@@ -34,19 +34,18 @@ class ClipboardExchangeTest : public ::testing::Test {
     frmMain window{&dialogs};
 };
 
-TEST_F(ClipboardExchangeTest, CopiedIconReachesOtherProgramsWithTransparentPixelsWhite) {
+TEST_F(ClipboardExchangeTest, CopiedIconReachesOtherProgramsWithItsColoursInOrder) {
     editor().doc().PicImage.setPixel(3, 2, rgb(200, 10, 20));
     editor().doc().PicMask.setPixel(3, 2, kBlack);
-    editor().doc().PicImage.setPixel(4, 2, rgb(0, 0, 255)); // inverting: white XOR blue
     keys(Qt::Key_T);
     keys(Qt::Key_C);
 
     const QImage copied = QApplication::clipboard()->image();
     ASSERT_EQ(copied.size(), QSize(32, 32));
+    // How each kind of pixel is copied is the core's (EditMenuTest); here
+    // that the picture reaches the system clipboard with its colours in order.
     EXPECT_EQ(copied.pixel(3, 2), qRgb(200, 10, 20));
-    EXPECT_EQ(copied.pixel(4, 2), qRgb(255, 255, 0));
     EXPECT_EQ(copied.pixel(0, 0), qRgb(255, 255, 255));
-    EXPECT_EQ(copied.pixel(31, 31), qRgb(255, 255, 255));
 }
 
 TEST_F(ClipboardExchangeTest, PictureFromAnotherProgramPastesFloatingWithWhiteTransparent) {
@@ -58,37 +57,26 @@ TEST_F(ClipboardExchangeTest, PictureFromAnotherProgramPastesFloatingWithWhiteTr
     QApplication::clipboard()->setImage(picture);
     ASSERT_TRUE(editor().editActionEnabled(EditAction::Paste));
 
+    // What happens to a pasted picture is the core's; here only that the
+    // picture arrives whole, white as transparent.
     keys(Qt::Key_V);
     ASSERT_TRUE(editor().selection().SelFloating);
-    EXPECT_EQ(editor().tools().currentTool, DrawingTools::Select);
-    const Selection::Rect r = editor().selection().SelRect;
-    EXPECT_EQ(std::tuple(r.Left, r.Top, r.Right, r.Bottom), std::tuple(0, 0, 240, 120));
-    EXPECT_EQ(dialogs.pasteDialogs, 0);
-
-    keys(Qt::Key_K); // Deselect stamps it into the icon and records it
     const IconDocument& doc = editor().doc();
-    EXPECT_TRUE(doc.isTransparent(0, 0));
-    EXPECT_TRUE(doc.isTransparent(19, 9));
-    EXPECT_EQ(doc.PicImage.pixel(2, 2), rgb(0, 0, 255));
-    EXPECT_EQ(doc.PicMask.pixel(2, 2), kBlack);
-    EXPECT_EQ(editor().undoRedo().UndoStack.size(), 2u);
-
-    keys(Qt::Key_Z);
-    EXPECT_TRUE(editor().doc().isTransparent(2, 2));
-    EXPECT_EQ(editor().undoRedo().UndoStack.size(), 1u);
+    EXPECT_EQ(std::pair(doc.PicSelImage.width(), doc.PicSelImage.height()), std::pair(20, 10));
+    EXPECT_EQ(std::pair(doc.PicSelImage.pixel(2, 2), doc.PicSelMask.pixel(2, 2)),
+              std::pair(rgb(0, 0, 255), kBlack));
+    EXPECT_EQ(std::pair(doc.PicSelMask.pixel(0, 0), doc.PicSelMask.pixel(19, 9)),
+              std::pair(kWhite, kWhite));
+    EXPECT_EQ(dialogs.pasteDialogs, 0);
 }
 
-TEST_F(ClipboardExchangeTest, TextOnlyClipboardGreysPasteAndTheShortcutPastesNothingVisible) {
+TEST_F(ClipboardExchangeTest, TextOnlyClipboardGreysPasteAndTheShortcutFloatsNothing) {
     QApplication::clipboard()->setText("not a picture");
     EXPECT_FALSE(editor().editActionEnabled(EditAction::Paste));
     EXPECT_FALSE(editor().editActionEnabled(EditAction::PasteOpaque));
-    const Plane image = editor().doc().PicImage, canvas = editor().canvas().PicMain;
     keys(Qt::Key_V);
     EXPECT_TRUE(editor().selection().SelFloating);
     EXPECT_EQ(editor().selection().SelRect.Right, 0) << "the empty picture floats";
-    EXPECT_EQ(editor().doc().PicImage, image);
-    EXPECT_EQ(editor().canvas().PicMain, canvas) << "and draws nothing, no outline either";
-    EXPECT_EQ(editor().undoRedo().UndoStack.size(), 1u);
 }
 
 } // namespace

@@ -82,27 +82,6 @@ TEST_F(FileCommandsSaveTest, TheHotSpotIsAskedFirstAndEitherCancelStops) {
     EXPECT_TRUE(QDir(files.path()).isEmpty());
 }
 
-TEST_F(FileCommandsSaveTest, FailedWritesSayWhichAndChangeNothing) {
-    const QString original = writeFile("forty.ico", TestIcon(16, 8).file());
-    openThroughDialog(original);
-    edit(3, 3, rgb(1, 2, 3));
-    editor->files().saveSucceeded = true;
-    const std::string state = documentState();
-    chooseNext(path("missing/lost.ico"));
-    editor->files().saveAs();
-    EXPECT_FALSE(editor->files().saveSucceeded);
-    chooseNext(path("missing/lost.bmp"));
-    editor->files().saveAsBitmap();
-    dialogs.hotSpots.push_back(HotSpot{1, 1});
-    chooseNext(path("missing/lost.cur"));
-    editor->files().saveAsCursor();
-    EXPECT_EQ(shown(), brevikError("Unable to save the file lost.ico") +
-                           brevikError("Failed to Save Icon As Bitmap.") +
-                           brevikError("Failed to Save Icon As Cursor."));
-    EXPECT_EQ(documentState(), state);
-    EXPECT_EQ(editor->recent().paths(), QStringList{original});
-}
-
 TEST_F(FileCommandsSaveTest, AnImageOfAMultiImageFileSavesOnlyToAnotherFile) {
     const QByteArray bytes = icoFile({TestIcon(16, 4).stored, TestIcon(16, 8).stored});
     const QString source = writeFile("pair.ico", bytes);
@@ -122,8 +101,8 @@ TEST_F(FileCommandsSaveTest, AnImageOfAMultiImageFileSavesOnlyToAnotherFile) {
     chooseNext(copy);
     editor->files().saveAs();
     EXPECT_EQ(documentState(), stateOf(copy));
-    EXPECT_EQ(readFile(copy), IcoFile(bytes).withImageReplaced(editor->doc().PicMask,
-                                                               editor->doc().PicImage, 256, chosen));
+    EXPECT_EQ(readFile(copy), IcoFile(bytes).withImageReplaced(
+                                  editor->doc().PicMask, editor->doc().PicImage, 256, chosen));
 }
 
 TEST_F(FileCommandsSaveTest, AFloatingSelectionIsCommittedBeforeABitmapIsWritten) {

@@ -92,7 +92,9 @@ TEST_F(OperationsTest, ASelectionChangesAloneUnrecordedAndTurnsClockwiseAfloat) 
         } else {
             mark(at(0), at(0), at(2), at(1));
         }
+        editor->doc().modified = false;
         command(operations());
+        EXPECT_TRUE(doc().modified);
         std::vector<Colour> selection = doc().PicSelImage.pixels();
         selection.insert(selection.end(), doc().PicSelMask.pixels().begin(),
                          doc().PicSelMask.pixels().end());
@@ -107,6 +109,12 @@ TEST_F(OperationsTest, ASelectionChangesAloneUnrecordedAndTurnsClockwiseAfloat) 
         expectPicture(!floating && lifted ? "TT" : "rT", 0, 0, 'g');
         EXPECT_EQ(undoSize(), 2u);
         expectRedrawnSelection();
+        // Committed, the changed selection, a marked one too, is one state
+        // that Undo takes back.
+        editor->editAction(Deselect);
+        EXPECT_EQ(undoSize(), 3u);
+        editor->editAction(Undo);
+        expectPicture("rT", 0, 0, 'g');
     }
 }
 

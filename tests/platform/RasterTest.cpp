@@ -72,24 +72,13 @@ TEST(RasterTest, StretchTakesTheFirstPixelOfEachBlockAndMirrorsOnANegativeExtent
     }
 }
 
-// The flips and reflections of the image commands transfer a plane onto
-// itself; each must read the pixels as they were before the transfer.
-TEST(RasterTest, APlaneStretchedOntoItselfReadsItsOldPixels) {
-    const struct {
-        const char* name;
-        int dx, dw, sx, sw;
-        std::string expected;
-    } cases[] = {
-        {"flip: source from the far edge backwards", 0, 5, 4, -5, text({"edcba"})},
-        {"reflect the left half over the right", 3, 2, 1, -2, text({"abcba"})},
-        {"shift right over itself", 1, 4, 0, 4, text({"aabcd"})},
-    };
-    for (const auto& t : cases) {
-        SCOPED_TRACE(t.name);
-        Plane plane = toPlane({"abcde"}, letters());
-        stretchBlt(plane, t.dx, 0, t.dw, 1, plane, t.sx, 0, t.sw, 1, RasterOp::Copy);
-        EXPECT_EQ(fromPlane(plane, letters()), t.expected);
-    }
+// A transfer of a plane onto itself reads the pixels as they were before it:
+// the flips and reflections, whose results TransformsTest checks, rely on it
+// with a mirrored source, and an overlapping shift does too.
+TEST(RasterTest, APlaneShiftedOntoItselfReadsItsOldPixels) {
+    Plane plane = toPlane({"abcde"}, letters());
+    stretchBlt(plane, 1, 0, 4, 1, plane, 0, 0, 4, 1, RasterOp::Copy);
+    EXPECT_EQ(fromPlane(plane, letters()), text({"aabcd"}));
 }
 
 TEST(RasterTest, FillRectIsHalfOpenAndClippedAndOutsidePixelsAreIgnored) {

@@ -31,14 +31,12 @@ inline Plane toPlane(std::initializer_list<const char*> rows, const Palette& pal
     return plane;
 }
 
-// The w x h block at (left, top) of plane; a colour missing from the palette
-// shows as '?'.
-inline std::string fromPlane(const Plane& plane, const Palette& palette, int left, int top,
-                             int width, int height) {
+// The plane as rows of text; a colour missing from the palette shows as '?'.
+inline std::string fromPlane(const Plane& plane, const Palette& palette) {
     std::string text;
-    for (int y = top; y < top + height; ++y) {
+    for (int y = 0; y < plane.height(); ++y) {
         text += '\n';
-        for (int x = left; x < left + width; ++x) {
+        for (int x = 0; x < plane.width(); ++x) {
             char shown = '?';
             for (const auto& [symbol, colour] : palette)
                 if (plane.pixel(x, y) == colour)
@@ -47,10 +45,6 @@ inline std::string fromPlane(const Plane& plane, const Palette& palette, int lef
         }
     }
     return text;
-}
-
-inline std::string fromPlane(const Plane& plane, const Palette& palette) {
-    return fromPlane(plane, palette, 0, 0, plane.width(), plane.height());
 }
 
 // The rows as fromPlane prints them.
