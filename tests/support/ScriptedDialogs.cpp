@@ -44,7 +44,6 @@ std::optional<HotSpot> ScriptedDialogs::chooseHotSpot(const Plane&, int, int) {
 }
 
 bool ScriptedDialogs::adjustColours(ColourAdjustment& adjustment) {
-    ++colourAdjustDialogs;
     const auto user = takeOr(colourAdjustments, std::function<bool(ColourAdjustment&)>());
     return user && user(adjustment);
 }

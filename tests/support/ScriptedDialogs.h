@@ -51,7 +51,6 @@ class ScriptedDialogs : public EditorDialogs {
     std::vector<QStringList> iconListings;
     int pasteDialogs = 0;
     int hotSpotDialogs = 0;
-    int colourAdjustDialogs = 0;
     std::vector<int> gradientSizes;
     std::vector<QString> extractStartFiles;
     std::vector<int> textSizes;
