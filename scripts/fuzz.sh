@@ -3,9 +3,10 @@
 # one after the other, and sums up what each did.
 #   scripts/fuzz.sh build-fuzz/fuzz 60 [harness ...]
 # Each harness starts from its seeds in fuzz/corpus/<harness>/ (written by
-# scripts/fuzz-seeds.py) and keeps what it learns in <build folder>/corpus/
-# <harness>. Findings land in <build folder>/findings/<harness>, the full
-# output in <build folder>/logs/<harness>.log.
+# scripts/fuzz-seeds.py), mutates with the tokens of its format in
+# fuzz/dict/<harness>.dict where there is one, and keeps what it learns in
+# <build folder>/corpus/<harness>. Findings land in <build folder>/findings/
+# <harness>, the full output in <build folder>/logs/<harness>.log.
 set -euo pipefail
 
 dir=${1:?usage: fuzz.sh <folder with the fuzzer binaries> [seconds each] [harness ...]}
@@ -37,11 +38,16 @@ for harness in "${harnesses[@]}"; do
         exit 1
     fi
     cp -n "$here/fuzz/corpus/$name"/* "$corpus"/
+    # Chunk IDs and signatures are four bytes that random mutation rarely
+    # hits; a dictionary hands them to the mutator.
+    dict=()
+    [ -f "$here/fuzz/dict/$name.dict" ] && dict=(-dict="$here/fuzz/dict/$name.dict")
     echo "== $name: $seconds s (output in $log)"
     # Findings of earlier runs stay for a look but are not counted again.
     touch "$dir/logs/$name.start"
     if ! "$harness" "$corpus" -max_total_time="$seconds" -timeout=10 -rss_limit_mb=2048 \
-            -max_len=65536 -artifact_prefix="$findings/" -print_final_stats=1 >"$log" 2>&1; then
+            -max_len=65536 -artifact_prefix="$findings/" -print_final_stats=1 "${dict[@]}" \
+            >"$log" 2>&1; then
         echo "!! $name found a problem; the input is in $findings" >&2
         grep -m1 -E '^(==[0-9]+==ERROR|SUMMARY)' "$log" >&2 || tail -20 "$log" >&2
         failed=1
