@@ -1,5 +1,7 @@
 #include "dialogs/FrmColAdj.h"
 
+#include "widgets/SpinnerArrows.h"
+
 #include <QLabel>
 #include <QPainter>
 #include <QPushButton>
@@ -47,16 +49,7 @@ QScrollBar* FrmColAdj::addSpinner(ColourAdjustment::Spinner spinner, const char*
     bar->setPageStep(ColourAdjustment::kStep);
     bar->setValue(0);
     bar->setGeometry(QRect(QPoint(kSpinnerLeft, top), kSpinner));
-    // A scroll bar counts up towards its lower arrow; a spinner's upper arrow
-    // raises the value, so every step is turned round before it is taken.
-    connect(bar, &QAbstractSlider::actionTriggered, bar, [bar](int action) {
-        if (action == QAbstractSlider::SliderSingleStepAdd ||
-            action == QAbstractSlider::SliderPageStepAdd)
-            bar->setSliderPosition(bar->value() - ColourAdjustment::kStep);
-        else if (action == QAbstractSlider::SliderSingleStepSub ||
-                 action == QAbstractSlider::SliderPageStepSub)
-            bar->setSliderPosition(bar->value() + ColourAdjustment::kStep);
-    });
+    raiseWithUpperArrow(bar, ColourAdjustment::kStep);
     label = new QLabel(QStringLiteral("0"), this);
     label->setObjectName(QString::fromLatin1(name).replace(0, 3, QStringLiteral("Lbl")));
     label->setGeometry(kLabelLeft, top - 1, kLabelWidth, 15);

@@ -1,6 +1,7 @@
 #include "dialogs/FrmGrad.h"
 
 #include "widgets/PictureBox.h"
+#include "widgets/SpinnerArrows.h"
 
 #include <QColorDialog>
 #include <QCoreApplication>
@@ -58,16 +59,7 @@ FrmGrad::FrmGrad(int size, QWidget* parent)
     VsbAngle->setSingleStep(GradientFill::kAngleStep);
     VsbAngle->setPageStep(GradientFill::kAngleStep);
     VsbAngle->setGeometry(74, 12, 16, 28);
-    // The upper arrow raises the angle, as every spinner of the program does;
-    // a scroll bar would lower it, so each step is turned round.
-    connect(VsbAngle, &QAbstractSlider::actionTriggered, this, [this](int action) {
-        if (action == QAbstractSlider::SliderSingleStepAdd ||
-            action == QAbstractSlider::SliderPageStepAdd)
-            VsbAngle->setSliderPosition(VsbAngle->value() - GradientFill::kAngleStep);
-        else if (action == QAbstractSlider::SliderSingleStepSub ||
-                 action == QAbstractSlider::SliderPageStepSub)
-            VsbAngle->setSliderPosition(VsbAngle->value() + GradientFill::kAngleStep);
-    });
+    raiseWithUpperArrow(VsbAngle, GradientFill::kAngleStep);
     LblAngle = new QLabel(QStringLiteral("000"), this);
     LblAngle->setObjectName("LblAngle");
     LblAngle->setAlignment(Qt::AlignCenter);
