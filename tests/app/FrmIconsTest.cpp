@@ -93,13 +93,9 @@ TEST(FrmIcons, BrowseRefusesAFileWithoutIconsAndKeepsTheGrid) {
 TEST(FrmIcons, ExtractOkGivesA32x32DocumentWhateverTheSizeBefore) {
     QTemporaryDir dir;
     const QString ani = writeAni(dir, "cursor.ani", 4);
-    MemoryClipboard clipboard;
     for (const auto& [sizeIndex, ok] : {std::pair(2, true), std::pair(0, false)}) {
-        frmMain window(nullptr, &clipboard);
-        window.editor().registry() = ModRegistry(dir.filePath("store.ini"));
-        window.startUp({});
-        window.activateWindow();
-        QApplication::processEvents();
+        QtDialogsWindow shell;
+        frmMain& window = shell.window;
         window.editor().newIcon(sizeIndex);
         window.editor().extraction().startFile = ani;
         const int size = window.editor().doc().size;

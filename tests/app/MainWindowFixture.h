@@ -32,6 +32,22 @@ class MainWindowFixture : public ::testing::Test {
     std::unique_ptr<frmMain> window = std::make_unique<frmMain>(&dialogs, &clipboard);
 };
 
+// The real main window asking with its Qt dialogs, started with a settings
+// store of its own and made the active window, for a test that drives one of
+// those dialogs through its controls.
+struct QtDialogsWindow {
+    QtDialogsWindow() {
+        window.editor().registry() = ModRegistry(folder.filePath("store.ini"));
+        window.startUp({});
+        window.activateWindow();
+        QApplication::processEvents();
+    }
+
+    QTemporaryDir folder;
+    MemoryClipboard clipboard;
+    frmMain window{nullptr, &clipboard};
+};
+
 // 0x00RRGGBB of a pixel of what a widget shows on screen.
 inline Colour colourAt(QWidget* widget, int x, int y) {
     const QRgb p = widget->grab().toImage().pixel(x, y);

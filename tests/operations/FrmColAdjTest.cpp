@@ -14,13 +14,8 @@ namespace {
 // that asks with Qt dialogs.
 TEST(ColorAdjustmentDialog, StepsThePreviewAndOkWritesTheIconWhileCancelWritesNothing) {
     for (const bool ok : {true, false}) {
-        QTemporaryDir folder;
-        MemoryClipboard clipboard;
-        frmMain window(nullptr, &clipboard);
-        window.editor().registry() = ModRegistry(folder.filePath("store.ini"));
-        window.startUp({});
-        window.activateWindow();
-        QApplication::processEvents();
+        QtDialogsWindow shell;
+        frmMain& window = shell.window;
         Editor& editor = window.editor();
         IconDocument& doc = editor.doc();
         doc.PicImage.fill(rgb(250, 100, 0));

@@ -19,13 +19,8 @@ TEST(GradientDialog, TheChosenGradientGoesUnderTheTransparentPixelsOnOkOnly) {
     // The kind chosen (0 "Linear", 1 "Sperical"), Ok.
     const std::pair<int, bool> cases[] = {{0, true}, {1, true}, {1, false}};
     for (const auto& [kind, ok] : cases) {
-        QTemporaryDir folder;
-        MemoryClipboard clipboard;
-        frmMain window(nullptr, &clipboard);
-        window.editor().registry() = ModRegistry(folder.filePath("store.ini"));
-        window.startUp({});
-        window.activateWindow();
-        QApplication::processEvents();
+        QtDialogsWindow shell;
+        frmMain& window = shell.window;
         Editor& editor = window.editor();
         IconDocument& doc = editor.doc();
         doc.PicImage.fill(kBlack);
