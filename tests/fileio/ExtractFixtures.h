@@ -3,8 +3,6 @@
 #include "fileio/IcoFile.h"
 #include "platform/Raster.h"
 
-#include <QByteArray>
-
 // A one-image icon file written by the program's own writer, its pixels
 // different for every seed and size, with transparent pixels: colourCount
 // 2 gives 1 bit, anything above 256 24 bits.
