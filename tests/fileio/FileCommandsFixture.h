@@ -3,28 +3,73 @@
 #include "IcoBuilder.h"
 #include "support/EditorFixture.h"
 
-#include <QTemporaryDir>
+#include <QFile>
+#include <QFileInfo>
 
 // An editor over a folder of files of its own.
 class FileCommandsFixture : public EditorFixture {
   protected:
     QString path(const QString& name) const { return files.filePath(name); }
-    QString writeFile(const QString& name, const QByteArray& bytes);
-    static QByteArray readFile(const QString& path);
-    void chooseNext(const QString& path); // the next file dialog's answer
-    void openThroughDialog(const QString& path);
-    void edit(int x, int y, Colour c); // as an edit does: the document is modified
-    void expectDocument(const TestIcon& icon) const;
+    QString writeFile(const QString& name, const QByteArray& bytes) {
+        QFile file(path(name));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
+        return file.fileName();
+    }
+    static QByteArray readFile(const QString& path) {
+        QFile file(path);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+    // The next file dialog's answer.
+    void chooseNext(const QString& path) {
+        dialogs.files.push_back(FileChoice{path, QFileInfo(path).fileName(), 1});
+    }
+    void openThroughDialog(const QString& path) {
+        chooseNext(path);
+        editor->files().open();
+    }
+    // As an edit does: the document is modified.
+    void edit(int x, int y, Colour c) {
+        editor->doc().PicImage.setPixel(x, y, c);
+        editor->doc().PicMask.setPixel(x, y, kBlack);
+        editor->refresh();
+        editor->recordEdit();
+    }
+    void expectDocument(const TestIcon& icon) const {
+        EXPECT_EQ(editor->doc().PicMask, icon.mask);
+        EXPECT_EQ(editor->doc().PicImage, icon.image);
+    }
     // The messages shown so far, one "title: text" line each, "!" marking a
     // warning.
-    std::string shown() const;
+    std::string shown() const {
+        std::string lines;
+        for (const auto& m : dialogs.messages)
+            lines += (m.icon == MessageIcon::Exclamation ? "! " : "") +
+                     (m.title + ": " + m.text).toStdString() + "\n";
+        return lines;
+    }
     // The caption, path, title and flags; stateOf is that of a document just
     // loaded from or saved to the file.
-    std::string documentState() const;
-    static std::string stateOf(const QString& file);
+    std::string documentState() const {
+        const IconDocument& doc = editor->doc();
+        return QStringLiteral("%1 | %2 | %3 | modified %4 | file %5")
+            .arg(editor->windowTitle(), doc.filePath, doc.fileTitle)
+            .arg(doc.modified)
+            .arg(doc.hasFile)
+            .toStdString();
+    }
+    static std::string stateOf(const QString& file) {
+        const QString title = QFileInfo(file).fileName();
+        return ("Brevik - " + title + " | " + file + " | " + title + " | modified 0 | file 1")
+            .toStdString();
+    }
 
     QTemporaryDir files;
 };
 
-std::string brevikError(const QString& text);
-std::string sollentError(const QString& text);
+inline std::string brevikError(const QString& text) {
+    return ("! Brevik - Error: " + text + "\n").toStdString();
+}
+
+inline std::string sollentError(const QString& text) {
+    return ("! Sollent - Error: " + text + "\n").toStdString();
+}
