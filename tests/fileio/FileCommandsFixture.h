@@ -34,10 +34,6 @@ class FileCommandsFixture : public EditorFixture {
         editor->refresh();
         editor->recordEdit();
     }
-    void expectDocument(const TestIcon& icon) const {
-        EXPECT_EQ(editor->doc().PicMask, icon.mask);
-        EXPECT_EQ(editor->doc().PicImage, icon.image);
-    }
     // The messages shown so far, one "title: text" line each, "!" marking a
     // warning.
     std::string shown() const {
@@ -68,8 +64,4 @@ class FileCommandsFixture : public EditorFixture {
 
 inline std::string brevikError(const QString& text) {
     return ("! Brevik - Error: " + text + "\n").toStdString();
-}
-
-inline std::string sollentError(const QString& text) {
-    return ("! Sollent - Error: " + text + "\n").toStdString();
 }
