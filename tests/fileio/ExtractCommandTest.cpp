@@ -12,8 +12,7 @@ namespace {
 using ExtractCommandTest = FileCommandsFixture;
 
 TEST_F(ExtractCommandTest, TheChosenIconBecomesA32x32DocumentWithAFreshHistory) {
-    // Step 0 shows a grown 16 x 16, step 1 a shrunk 48 x 48; each has
-    // transparent pixels.
+    // Step 0 shows a grown 16 x 16 and step 1 a shrunk 48 x 48, transparent pixels and all.
     const std::vector<QByteArray> shown{patternIcon(16, 1), patternIcon(48, 2)};
     const QString cursor = writeFile("walk.ani", AniWriter{shown, 2, {}}.bytes());
 
