@@ -4,6 +4,7 @@
 #include "IcoBuilder.h"
 
 #include "fileio/ModFileIO.h"
+#include "fileio/MultiIconResource.h"
 
 #include <QProcess>
 #include <QTemporaryDir>
@@ -47,28 +48,38 @@ std::string asRgba(const Plane& mask, const Plane& image) {
     return lines.join('\n').toStdString();
 }
 
-TEST(RoundTripTest, IconsAndCursorsOfEveryDepthAndSizeReadInIcotoolAndInPillow) {
+// The first ten also fill the slots of a multi-icon resource, which lists
+// the deepest and largest first; the last two find it full.
+TEST(RoundTripTest, IconsCursorsAndMultiIconsOfEveryDepthAndSizeReadInIcotoolAndInPillow) {
     QTemporaryDir dir;
-    const std::tuple<int, int, int> depths[] = {{2, 1, 2}, {16, 4, 16}, {256, 8, 256}, {-1, 24, 0}};
-    for (int size : {16, 32, 48})
-        for (const auto& [count, depth, paletteSize] : depths) {
+    const QString ico = dir.filePath("i.ico"), cur = dir.filePath("c.cur"),
+                  multi = dir.filePath("m.ico");
+    MultiIconResource resource;
+    QString slotLines;
+    const std::tuple<int, int, int> depths[] = {{-1, 24, 0}, {256, 8, 256}, {16, 4, 16}, {2, 1, 2}};
+    for (const auto& [count, depth, paletteSize] : depths)
+        for (int size : {48, 32, 16}) {
             SCOPED_TRACE(testing::Message() << size << " at " << depth << " bits");
             const TestIcon p(size, depth);
             // 1- and 4-bit files carry black tables, so their colours read black.
             const Plane colours = depth < 8 ? Plane(size, size, kBlack) : p.image;
-            const QString ico = dir.filePath("i.ico"), cur = dir.filePath("c.cur");
             const QString listed =
-                QStringLiteral("--index=1 --width=%1 --height=%1 --bit-depth=%2 --palette-size=%3")
+                QStringLiteral("--width=%1 --height=%1 --bit-depth=%2 --palette-size=%3")
                     .arg(size)
                     .arg(depth)
                     .arg(paletteSize);
             ASSERT_TRUE(ModFileIO::writeIcon(p.mask, p.image, count, ico));
             ASSERT_TRUE(ModFileIO::writeCursor(p.mask, p.image, count, 5, 7, cur));
-            EXPECT_EQ(run("icotool", {"-l", ico}), "--icon " + listed);
+            EXPECT_EQ(run("icotool", {"-l", ico}), "--icon --index=1 " + listed);
             EXPECT_EQ(run("icotool", {"-l", cur}),
-                      "--cursor " + listed + " --hotspot-x=5 --hotspot-y=7");
+                      "--cursor --index=1 " + listed + " --hotspot-x=5 --hotspot-y=7");
             EXPECT_EQ(pillowPixels(ico), asRgba(p.mask, colours));
+            if (resource.add(*ModFileIO::readFile(ico)).slot >= 0)
+                slotLines +=
+                    QStringLiteral("\n--icon --index=%1 ").arg(resource.filledCount()) + listed;
         }
+    ASSERT_TRUE(ModFileIO::saveFile(multi, resource.toBytes()));
+    EXPECT_EQ(("\n" + run("icotool", {"-l", multi})).toStdString(), slotLines.toStdString());
 }
 
 TEST(RoundTripTest, PillowReadsBitmapsAsWritten) {
