@@ -30,13 +30,6 @@ struct Library {
     std::vector<QByteArray> shown{a32, c48, b32, d16};
 };
 
-QByteArray built(const char* target, const Library& library) {
-    QString error;
-    const QByteArray dll = PeLibraryBuilder{target, library.rc}.build(error);
-    EXPECT_FALSE(dll.isEmpty()) << error.toStdString();
-    return dll;
-}
-
 // The 64-bit library is opened from disk, padded past the largest icon file
 // with zeros after its last section, as an installer's payload would be.
 TEST(PeIconSourceTest, EveryGroupOfARealLibraryShowsItsBestImageInDirectoryOrder) {
@@ -44,13 +37,14 @@ TEST(PeIconSourceTest, EveryGroupOfARealLibraryShowsItsBestImageInDirectoryOrder
     QTemporaryDir folder;
     QFile file(folder.filePath("big.dll"));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(built("x86_64", library));
+    file.write(PeLibraryBuilder{"x86_64", library.rc}.build());
     ASSERT_TRUE(file.resize(IconLayout::kMaxFileBytes + 4096));
     file.close();
     for (const char* target : {"x86_64", "i686"}) {
-        const auto opened = target == std::string("i686")
-                                ? IconSourceOpener::open(built(target, library))
-                                : IconSourceOpener::openFile(file.fileName());
+        const auto opened =
+            target == std::string("i686")
+                ? IconSourceOpener::open(PeLibraryBuilder{target, library.rc}.build())
+                : IconSourceOpener::openFile(file.fileName());
         ASSERT_TRUE(opened.source) << target;
         ASSERT_EQ(opened.source->count(), 4) << target;
         for (int i = 0; i < 4; ++i) {
@@ -65,7 +59,7 @@ TEST(PeIconSourceTest, EveryGroupOfARealLibraryShowsItsBestImageInDirectoryOrder
 }
 
 TEST(PeIconSourceTest, ACutOrCircularDirectoryGivesATypedFault) {
-    const QByteArray dll = built("x86_64", Library());
+    const QByteArray dll = PeLibraryBuilder{"x86_64", Library().rc}.build();
     // The resource section's file offset, from its section header.
     const qint64 root = qFromLittleEndian<quint32>(dll.constData() + dll.indexOf(".rsrc") + 20);
     const auto patched = [&dll](qint64 at, QByteArray with) {
