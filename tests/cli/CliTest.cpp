@@ -4,6 +4,7 @@
 #include "support/PeLibraryBuilder.h"
 
 #include "fileio/BmpFile.h"
+#include "fileio/ModFileIO.h"
 #include "fileio/ModPalette.h"
 #include "fileio/MultiIconResource.h"
 
@@ -46,8 +47,7 @@ Outcome cli(const QStringList& arguments) {
 }
 
 QByteArray read(const QString& path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    return ModFileIO::readFile(path).value_or(QByteArray());
 }
 
 // The files of a folder, by name.
@@ -62,9 +62,8 @@ class CliTest : public ::testing::Test {
   protected:
     QString path(const QString& name) const { return dir.filePath(name); }
     QString make(const QString& name, const QByteArray& bytes) const {
-        QFile file(path(name));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
-        return file.fileName();
+        EXPECT_TRUE(ModFileIO::saveFile(path(name), bytes));
+        return path(name);
     }
     QTemporaryDir dir;
 };
@@ -169,12 +168,11 @@ TEST_F(CliTest, ConvertFitsAnOddPictureKeepingItsAspectAndSaysSo) {
     EXPECT_EQ(r.code, 0);
     EXPECT_EQ(r.out, in + ": 20 x 10 shrunk to 16 x 8 (aspect kept), centred in a 16 x 16 icon\n");
     const IconLoadResult icon = IcoFile(read(out)).image(0);
-    ASSERT_TRUE(icon.ok());
-    for (int y = 0; y < 16; ++y) {
-        const bool opaque = y >= 4 && y < 12;
-        EXPECT_EQ(icon.mask.pixel(0, y), opaque ? kBlack : kWhite) << y;
-        EXPECT_EQ(icon.image.pixel(15, y), opaque ? rgb(200, 10, 10) : kBlack) << y;
-    }
+    Plane mask(16, 16, kWhite), colour(16, 16, kBlack);
+    fillRect(mask, 0, 4, 16, 12, kBlack);
+    fillRect(colour, 0, 4, 16, 12, rgb(200, 10, 10));
+    EXPECT_EQ(icon.mask, mask);
+    EXPECT_EQ(icon.image, colour);
     // With no size the nearest is taken, the larger of two as near.
     image = QImage(40, 40, QImage::Format_RGB32);
     ASSERT_TRUE(image.save(in));

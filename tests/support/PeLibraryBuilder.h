@@ -20,6 +20,8 @@ struct PeLibraryBuilder {
     // The DLL's bytes, or empty with error saying which step failed.
     QByteArray build(QString& error) const {
         QTemporaryDir dir;
+        const QString rc = dir.filePath("icons.rc"), object = dir.filePath("icons.o"),
+                      dll = dir.filePath("icons.dll");
         QByteArray script;
         for (std::size_t i = 0; i < icons.size(); ++i) {
             const QString ico = dir.filePath(QString("icon%1.ico").arg(i));
@@ -27,8 +29,6 @@ struct PeLibraryBuilder {
                 return {};
             script += icons[i].first.toUtf8() + " ICON \"" + ico.toUtf8() + "\"\n";
         }
-        const QString rc = dir.filePath("icons.rc"), object = dir.filePath("icons.o"),
-                      dll = dir.filePath("icons.dll");
         // The script has no directives, so it needs no C preprocessor (and no
         // cross compiler): cat passes it through.
         const QString prefix = target + "-w64-mingw32-";
@@ -38,9 +38,7 @@ struct PeLibraryBuilder {
             !run(prefix + "ld", {"--dll", "-e", "0", "-o", dll, object}, error))
             return {};
         QFile file(dll);
-        if (!file.open(QIODevice::ReadOnly))
-            error = "no DLL made";
-        return error.isEmpty() ? file.readAll() : QByteArray();
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
 
     // The DLL's bytes; a failure fails the test and says which step failed.
