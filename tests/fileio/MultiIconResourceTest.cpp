@@ -20,11 +20,8 @@ TEST(MultiIconResource, EveryOutcomeOfAdd) {
     cursor[2] = 2;
     noCount[4] = 0; // refused by the header test before it is counted
     const auto withInfo = [](qint64 width, qint64 height, int bitCount, qint64 offset = 22) {
-        return IcoBuilder()
-            .header(1, 1)
-            .entry(32, 4, 744, offset)
-            .info(width, height, bitCount)
-            .bytes;
+        IcoBuilder file;
+        return file.header(1, 1).entry(32, 4, 744, offset).info(width, height, bitCount).bytes;
     };
     const std::tuple<QByteArray, Outcome, int> cases[] = {
         {iconFile(0), Outcome::Added, 0},
