@@ -17,55 +17,41 @@ struct PeLibraryBuilder {
     QString target;
     std::vector<std::pair<QString, QByteArray>> icons;
 
-    // The DLL's bytes, or empty with error saying which step failed.
+    // The DLL's bytes, or empty with error saying what failed.
     QByteArray build(QString& error) const {
         QTemporaryDir dir;
-        const QString rc = dir.filePath("icons.rc"), object = dir.filePath("icons.o"),
-                      dll = dir.filePath("icons.dll");
         QByteArray script;
         for (std::size_t i = 0; i < icons.size(); ++i) {
-            const QString ico = dir.filePath(QString("icon%1.ico").arg(i));
-            if (!write(ico, icons[i].second, error))
-                return {};
-            script += icons[i].first.toUtf8() + " ICON \"" + ico.toUtf8() + "\"\n";
+            QFile ico(dir.filePath(QString("icon%1.ico").arg(i)));
+            if (ico.open(QIODevice::WriteOnly))
+                ico.write(icons[i].second);
+            script += icons[i].first.toUtf8() + " ICON \"" + ico.fileName().toUtf8() + "\"\n";
         }
+        QFile rc(dir.filePath("icons.rc")), dll(dir.filePath("icons.dll"));
+        if (rc.open(QIODevice::WriteOnly))
+            rc.write(script);
+        rc.close();
         // The script has no directives, so it needs no C preprocessor (and no
         // cross compiler): cat passes it through.
-        const QString prefix = target + "-w64-mingw32-";
-        if (!write(rc, script, error) ||
-            !run(prefix + "windres", {"--preprocessor=cat", "-O", "coff", "-i", rc, "-o", object},
-                 error) ||
-            !run(prefix + "ld", {"--dll", "-e", "0", "-o", dll, object}, error))
+        QProcess tools;
+        tools.setWorkingDirectory(dir.path());
+        tools.start("sh", {"-ec", QString("%1windres --preprocessor=cat -O coff -i icons.rc -o "
+                                          "icons.o; %1ld --dll -e 0 -o icons.dll icons.o")
+                                      .arg(target + "-w64-mingw32-")});
+        if (!tools.waitForFinished(60000) || tools.exitCode() != 0 ||
+            !dll.open(QIODevice::ReadOnly)) {
+            error = "windres or ld failed (install binutils-mingw-w64): " +
+                    QString::fromLocal8Bit(tools.readAllStandardError());
             return {};
-        QFile file(dll);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+        }
+        return dll.readAll();
     }
 
-    // The DLL's bytes; a failure fails the test and says which step failed.
+    // The DLL's bytes; a failure fails the test and says what failed.
     QByteArray build() const {
         QString error;
         const QByteArray dll = build(error);
         EXPECT_FALSE(dll.isEmpty()) << error.toStdString();
         return dll;
-    }
-
-  private:
-    static bool run(const QString& program, const QStringList& arguments, QString& error) {
-        QProcess process;
-        process.start(program, arguments);
-        if (process.waitForFinished(60000) && process.exitStatus() == QProcess::NormalExit &&
-            process.exitCode() == 0)
-            return true;
-        error = program + " failed (install binutils-mingw-w64): " + process.errorString() + " " +
-                QString::fromLocal8Bit(process.readAllStandardError());
-        return false;
-    }
-
-    static bool write(const QString& path, const QByteArray& bytes, QString& error) {
-        QFile file(path);
-        if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size())
-            return true;
-        error = "cannot write " + path;
-        return false;
     }
 };
