@@ -72,7 +72,8 @@ TEST_F(CliTest, ExitCodesAndOneLineOnStderr) {
     const QString good = make("good.ico", patternIcon(16, 1));
     const QString corrupt = make("corrupt.ico", QByteArray("\0\0\1\0\1\0garbage", 14));
     const QString missing = path("missing.ico"), unreadable = "Unable to read data from " + missing,
-                  invalid = corrupt + " is not a valid icon file.";
+                  invalid = corrupt + " is not a valid icon file.",
+                  unwritable = path("no/such/folder/o.ico");
     // Usage faults exit 2 and point at --help; a file that fails exits 1.
     const std::tuple<QStringList, int, QString> cases[] = {
         {{"--help"}, 0, ""},
@@ -93,9 +94,7 @@ TEST_F(CliTest, ExitCodesAndOneLineOnStderr) {
         {{"convert", corrupt, path("never.ico")}, 1, invalid},
         {{"extract", "-o", path("x"), corrupt}, 1, invalid},
         {{"library", path("never.icl"), missing}, 1, unreadable},
-        {{"convert", good, path("no/such/folder/o.ico")},
-         1,
-         "Unable to save the file " + path("no/such/folder/o.ico")},
+        {{"convert", good, unwritable}, 1, "Unable to save the file " + unwritable},
     };
     for (const auto& [arguments, code, message] : cases) {
         const Outcome r = cli(arguments);
@@ -103,9 +102,7 @@ TEST_F(CliTest, ExitCodesAndOneLineOnStderr) {
         const QString help = code == 2 ? " (see brevik-cli --help)" : "";
         EXPECT_EQ(r.code, code) << what;
         EXPECT_EQ(r.err, message.isEmpty() ? "" : "brevik-cli: " + message + help + "\n") << what;
-        if (code == 0) {
-            EXPECT_TRUE(r.out.startsWith("Usage: brevik-cli")) << what;
-        }
+        EXPECT_EQ(r.out.startsWith("Usage: brevik-cli"), code == 0) << what;
     }
     // The other files still count: the good file is listed behind the missing one.
     EXPECT_TRUE(cli({"info", missing, good}).out.startsWith(good + "\t0\t16x16\t24\ticon\t-\n"));
