@@ -95,25 +95,19 @@ TEST(WriterTest, ColoursMissingFromTheTableKeepThePreviousIndex) {
 }
 
 TEST(WriterTest, EditedImageOfThreeComesFirstAndTheOthersFollowWithNewOffsets) {
-    StoredImage first(16, 4, std::vector<Colour>(16, rgb(1, 1, 1)));
-    first.colourRows.fill('\x12');
-    StoredImage third(48, 24);
-    third.colourRows.fill('\x33');
-    const QByteArray source =
-        icoFile({first, StoredImage(32, 8, std::vector<Colour>(256, rgb(2, 2, 2))), third});
-    Plane image(32, 32, rgb(200, 100, 50)), mask(32, 32, kBlack);
-    mask.setPixel(0, 0, kWhite);
-
+    const TestIcon first(16, 4), third(48, 24), edited(32, 24);
+    const QByteArray source = icoFile({first.stored, TestIcon(32, 8).stored, third.stored});
+    const Plane &mask = edited.mask, &image = edited.image;
     const auto out = IcoFile(source).withImageReplaced(mask, image, kTrue, {1, 8, 32, 32});
     ASSERT_TRUE(out);
-    const qint64 start = 6 + 3 * 16, length = 3240, firstLength = first.data().size();
+    const qint64 start = 6 + 3 * 16, length = 3240, firstLength = first.stored.data().size();
     // The header, the new entry, then entries 0 and 2 with only their offsets
     // changed; the image as a one-image icon has it, its length in biSizeImage.
     QByteArray expected = source.left(6) + IcoBuilder().entry(32, 24, length, start).bytes;
     expected += source.mid(6, 12) + le(start + length, 4) + source.mid(38, 12) +
                 le(start + length + firstLength, 4);
     expected += IcoFile::iconBytes(mask, image, kTrue).mid(22).replace(20, 4, le(length, 4));
-    EXPECT_EQ(*out, expected + first.data() + third.data());
+    EXPECT_EQ(*out, expected + first.stored.data() + third.stored.data());
 }
 
 TEST(WriterTest, MultiRewriteOfAnUnreadableSourceOrChoiceGivesNoFile) {
