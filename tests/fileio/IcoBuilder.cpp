@@ -24,15 +24,13 @@ QByteArray StoredImage::data() const {
 QByteArray icoFile(const std::vector<StoredImage>& images, int type) {
     IcoBuilder b;
     b.header(type, static_cast<int>(images.size()));
-    qint64 offset = 6 + 16 * static_cast<qint64>(images.size());
+    QByteArray data;
     for (const StoredImage& image : images) {
-        const qint64 length = image.data().size();
-        b.entry(image.size, image.depth, length, offset);
-        offset += length;
+        const qint64 offset = 6 + 16 * static_cast<qint64>(images.size()) + data.size();
+        b.entry(image.size, image.depth, image.data().size(), offset);
+        data += image.data();
     }
-    for (const StoredImage& image : images)
-        b.bytes.append(image.data());
-    return b.bytes;
+    return b.bytes + data;
 }
 
 TestIcon::TestIcon(int size, int depth)

@@ -1,6 +1,6 @@
-// Files this program writes, read back by its own reader and by readers it
-// did not write: icotool of icoutils and Pillow, both installed by
-// scripts/install-deps.sh.
+// Files this program writes, read by readers it did not write (icotool of
+// icoutils and Pillow, both installed by scripts/install-deps.sh), and what
+// a failed write leaves behind.
 #include "IcoBuilder.h"
 
 #include "fileio/ModFileIO.h"
@@ -69,7 +69,7 @@ TEST(RoundTripTest, EveryFileOfEveryDepthAndSizeReadsInIcotoolAndInPillow) {
             EXPECT_EQ(run("icotool", {"-l", cur}),
                       "--cursor --index=1 " + listed + " --hotspot-x=5 --hotspot-y=7");
             EXPECT_EQ(pillowPixels(ico), asRgba(p.mask, colours));
-            // An 8-bit bitmap's table leaves white out, on purpose; see ModPalette.
+            // 8-bit bitmaps keep no entry for white, on purpose; see ModPalette.
             if (depth != 8) {
                 ASSERT_TRUE(ModFileIO::writeBitmap(p.image, count, bmp));
                 EXPECT_EQ(pillowPixels(bmp), asRgba(Plane(size, size), colours));
