@@ -4,7 +4,7 @@
 #include "support/PeLibraryBuilder.h"
 
 #include "fileio/BmpFile.h"
-#include "fileio/IconSourceOpener.h"
+#include "fileio/ModFileIO.h"
 #include "fileio/ModPalette.h"
 #include "fileio/MultiIconResource.h"
 
@@ -15,8 +15,6 @@
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
-
-#include <algorithm>
 
 // Readable failures.
 inline void PrintTo(const QString& text, std::ostream* os) {
@@ -49,22 +47,7 @@ Outcome cli(const QStringList& arguments) {
 }
 
 QByteArray read(const QString& path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-void write(const QString& path, const QByteArray& bytes) {
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(bytes);
-}
-
-// icotool, an independent reader, lists the file without complaint.
-void expectIcotoolReads(const QString& path) {
-    const Outcome listed = run("icotool", {"-l", path});
-    EXPECT_EQ(listed.code, 0) << path.toStdString() << listed.err.toStdString();
-    EXPECT_TRUE(listed.err.isEmpty()) << listed.err.toStdString();
-    EXPECT_FALSE(listed.out.isEmpty()) << path.toStdString();
+    return ModFileIO::readFile(path).value_or(QByteArray());
 }
 
 // The files of a folder, by name.
@@ -79,7 +62,7 @@ class CliTest : public ::testing::Test {
   protected:
     QString path(const QString& name) const { return dir.filePath(name); }
     QString make(const QString& name, const QByteArray& bytes) const {
-        write(path(name), bytes);
+        EXPECT_TRUE(ModFileIO::saveFile(path(name), bytes));
         return path(name);
     }
     QTemporaryDir dir;
@@ -88,130 +71,86 @@ class CliTest : public ::testing::Test {
 TEST_F(CliTest, ExitCodesAndOneLineOnStderr) {
     const QString good = make("good.ico", patternIcon(16, 1));
     const QString corrupt = make("corrupt.ico", QByteArray("\0\0\1\0\1\0garbage", 14));
-    const QString missing = path("missing.ico");
-    const struct {
-        QStringList arguments;
-        int code;
-        QString stderrLine; // empty: nothing on stderr
-    } cases[] = {
+    const QString missing = path("missing.ico"), unreadable = "Unable to read data from " + missing,
+                  invalid = corrupt + " is not a valid icon file.",
+                  unwritable = path("no/such/folder/o.ico");
+    // Usage faults exit 2 and point at --help; a file that fails exits 1.
+    const std::tuple<QStringList, int, QString> cases[] = {
         {{"--help"}, 0, ""},
         {{"convert", "--help"}, 0, ""},
-        {{}, 2, "brevik-cli: no verb given (see brevik-cli --help)"},
-        {{"frobnicate", good}, 2, "brevik-cli: unknown verb frobnicate (see brevik-cli --help)"},
-        {{"info", "--bogus", good},
-         2,
-         "brevik-cli: unknown option --bogus (see brevik-cli --help)"},
-        {{"info"}, 2, "brevik-cli: info needs at least one file (see brevik-cli --help)"},
-        {{"convert", good},
-         2,
-         "brevik-cli: convert takes one input and one output file (see brevik-cli --help)"},
-        {{"convert", good, path("out.gif")},
-         2,
-         "brevik-cli: the output must end in .ico, .cur or .bmp (see brevik-cli --help)"},
-        {{"convert", "--size", "20", good, path("o.ico")},
-         2,
-         "brevik-cli: --size must be 16, 32 or 48 (see brevik-cli --help)"},
+        {{}, 2, "no verb given"},
+        {{"frobnicate", good}, 2, "unknown verb frobnicate"},
+        {{"info", "--bogus", good}, 2, "unknown option --bogus"},
+        {{"info"}, 2, "info needs at least one file"},
+        {{"convert", good}, 2, "convert takes one input and one output file"},
+        {{"convert", good, path("out.gif")}, 2, "the output must end in .ico, .cur or .bmp"},
+        {{"convert", "--size", "20", good, path("o.ico")}, 2, "--size must be 16, 32 or 48"},
         {{"extract", "--size", "16", good},
          2,
-         "brevik-cli: extract --size takes only 32, the size Extract gives (see brevik-cli "
-         "--help)"},
-        {{"info", missing, good}, 1, "brevik-cli: Unable to read data from " + missing},
-        {{"info", corrupt}, 1, "brevik-cli: " + corrupt + " is not a valid icon file."},
-        {{"convert", missing, path("never.ico")},
-         1,
-         "brevik-cli: Unable to read data from " + missing},
-        {{"convert", corrupt, path("never.ico")},
-         1,
-         "brevik-cli: " + corrupt + " is not a valid icon file."},
-        {{"extract", "-o", path("x"), corrupt},
-         1,
-         "brevik-cli: " + corrupt + " is not a valid icon file."},
-        {{"library", path("never.icl"), missing},
-         1,
-         "brevik-cli: Unable to read data from " + missing},
-        {{"convert", good, path("no/such/folder/o.ico")},
-         1,
-         "brevik-cli: Unable to save the file " + path("no/such/folder/o.ico")},
+         "extract --size takes only 32, the size Extract gives"},
+        {{"info", missing, good}, 1, unreadable},
+        {{"info", corrupt}, 1, invalid},
+        {{"convert", missing, path("never.ico")}, 1, unreadable},
+        {{"convert", corrupt, path("never.ico")}, 1, invalid},
+        {{"extract", "-o", path("x"), corrupt}, 1, invalid},
+        {{"library", path("never.icl"), missing}, 1, unreadable},
+        {{"convert", good, unwritable}, 1, "Unable to save the file " + unwritable},
     };
-    for (const auto& c : cases) {
-        const Outcome r = cli(c.arguments);
-        const std::string what = c.arguments.join(' ').toStdString();
-        EXPECT_EQ(r.code, c.code) << what;
-        EXPECT_EQ(r.err, c.stderrLine.isEmpty() ? "" : c.stderrLine + "\n") << what;
-        if (c.code == 0) {
-            EXPECT_TRUE(r.out.startsWith("Usage: brevik-cli")) << what;
-        }
+    for (const auto& [arguments, code, message] : cases) {
+        const Outcome r = cli(arguments);
+        const std::string what = arguments.join(' ').toStdString();
+        const QString help = code == 2 ? " (see brevik-cli --help)" : "";
+        EXPECT_EQ(r.code, code) << what;
+        EXPECT_EQ(r.err, message.isEmpty() ? "" : "brevik-cli: " + message + help + "\n") << what;
+        EXPECT_EQ(r.out.startsWith("Usage: brevik-cli"), code == 0) << what;
     }
     // The other files still count: the good file is listed behind the missing one.
     EXPECT_TRUE(cli({"info", missing, good}).out.startsWith(good + "\t0\t16x16\t24\ticon\t-\n"));
     EXPECT_FALSE(QFile::exists(path("never.ico")));
     EXPECT_FALSE(QFile::exists(path("never.icl")));
-    EXPECT_EQ(run(BREVIK_EDITOR, {"--help"}).code, 0);
-    EXPECT_TRUE(run(BREVIK_EDITOR, {"--help"}).out.startsWith("Usage: brevik"));
-    const Outcome bad = run(BREVIK_EDITOR, {"--bogus"});
+    const Outcome help = run(BREVIK_EDITOR, {"--help"}), bad = run(BREVIK_EDITOR, {"--bogus"});
+    EXPECT_EQ(help.code, 0);
+    EXPECT_TRUE(help.out.startsWith("Usage: brevik"));
     EXPECT_EQ(bad.code, 2);
     EXPECT_EQ(bad.err, "brevik: unknown option --bogus (see brevik --help)\n");
-}
-
-// A picture whose pixels tell apart opaque, transparent and many colours.
-QImage picture(int width, int height, int colours) {
-    QImage image(width, height, QImage::Format_ARGB32);
-    for (int y = 0; y < height; ++y)
-        for (int x = 0; x < width; ++x) {
-            const int n = (x * 7 + y * 3) % colours;
-            image.setPixel(x, y,
-                           (x + y) % 5 == 0 ? qRgba(9, 9, 9, 100)
-                                            : qRgb(n * 40 % 256, n * 90 % 256, n * 15 % 256));
-        }
-    return image;
-}
-
-// The planes the editor holds for the picture: under half opacity
-// transparent, the rest opaque.
-std::pair<Plane, Plane> planesOf(const QImage& image) {
-    Plane mask(image.width(), image.height()), colour(image.width(), image.height());
-    for (int y = 0; y < image.height(); ++y)
-        for (int x = 0; x < image.width(); ++x) {
-            const QRgb p = image.pixel(x, y);
-            const bool opaque = qAlpha(p) >= 128;
-            mask.setPixel(x, y, opaque ? kBlack : kWhite);
-            colour.setPixel(x, y, opaque ? rgb(qRed(p), qGreen(p), qBlue(p)) : kBlack);
-        }
-    return {mask, colour};
 }
 
 TEST_F(CliTest, ConvertWritesWhatSaveAsWritesForTheSamePlanes) {
     // 2 colours (1 bit), 16 of the standard ones would need the exact
     // values, so 6 and 300 give 8 and 24 bits; the kinds of output too.
-    const struct {
-        int size, colours;
-        const char* out;
-    } cases[] = {{16, 1, "ico"}, {32, 6, "ico"},   {48, 300, "ico"},
-                 {32, 6, "cur"}, {16, 300, "bmp"}, {48, 6, "bmp"}};
-    for (const auto& c : cases) {
-        const QImage image = picture(c.size, c.size, c.colours);
-        const QString in = path("in.png"), out = path(QString("out.") + c.out);
+    const std::tuple<int, int, QString> cases[] = {{16, 1, "ico"},   {32, 6, "ico"},
+                                                   {48, 300, "ico"}, {32, 6, "cur"},
+                                                   {16, 300, "bmp"}, {48, 6, "bmp"}};
+    for (const auto& [size, colours, kind] : cases) {
+        // Every fifth pixel under half opacity, so the editor holds it
+        // transparent; the rest opaque in many colours.
+        QImage image(size, size, QImage::Format_ARGB32);
+        Plane mask(size, size), colour(size, size), clip(size, size, kWhite);
+        for (int y = 0; y < size; ++y)
+            for (int x = 0; x < size; ++x) {
+                const int n = (x * 7 + y * 3) % colours;
+                const Colour c = rgb(n * 40 % 256, n * 90 % 256, n * 15 % 256);
+                const bool clear = (x + y) % 5 == 0;
+                image.setPixel(x, y,
+                               clear ? qRgba(9, 9, 9, 100) : qRgb(redOf(c), greenOf(c), blueOf(c)));
+                mask.setPixel(x, y, clear ? kWhite : kBlack);
+                colour.setPixel(x, y, clear ? kBlack : c);
+            }
+        const QString in = path("in.png"), out = path("out." + kind);
         ASSERT_TRUE(image.save(in));
-        const auto [mask, colour] = planesOf(image);
-        QByteArray expected;
-        if (QString(c.out) == "ico") {
-            expected = IcoFile::iconBytes(mask, colour, ModPalette::countColours(colour, true));
-        } else if (QString(c.out) == "cur") {
-            expected =
-                IcoFile::cursorBytes(mask, colour, ModPalette::countColours(colour, true), 5, 7);
-        } else {
-            Plane clip(c.size, c.size, kWhite);
-            drawMasked(clip, 0, 0, mask, colour);
-            expected = BmpFile::bytes(clip, ModPalette::countColours(clip, false));
-        }
+        drawMasked(clip, 0, 0, mask, colour);
+        const int count = ModPalette::countColours(colour, true);
+        const QByteArray expected =
+            kind == "ico"   ? IcoFile::iconBytes(mask, colour, count)
+            : kind == "cur" ? IcoFile::cursorBytes(mask, colour, count, 5, 7)
+                            : BmpFile::bytes(clip, ModPalette::countColours(clip, false));
         const Outcome r = cli({"convert", "--hotspot", "5,7", in, out});
         EXPECT_EQ(r.code, 0) << r.err.toStdString();
-        EXPECT_EQ(read(out), expected) << c.size << c.out;
+        EXPECT_EQ(read(out), expected) << size << kind.toStdString();
         // An icon read back through the editor's reader converts to itself.
-        if (QString(c.out) != "bmp") {
-            expectIcotoolReads(out);
-            ASSERT_EQ(cli({"convert", "--hotspot", "5,7", out, out + ".again." + c.out}).code, 0);
-            EXPECT_EQ(read(out + ".again." + c.out), expected);
+        if (kind != "bmp") {
+            ASSERT_EQ(cli({"convert", "--hotspot", "5,7", out, out + ".again." + kind}).code, 0);
+            EXPECT_EQ(read(out + ".again." + kind), expected);
         }
     }
 }
@@ -226,70 +165,41 @@ TEST_F(CliTest, ConvertFitsAnOddPictureKeepingItsAspectAndSaysSo) {
     EXPECT_EQ(r.code, 0);
     EXPECT_EQ(r.out, in + ": 20 x 10 shrunk to 16 x 8 (aspect kept), centred in a 16 x 16 icon\n");
     const IconLoadResult icon = IcoFile(read(out)).image(0);
-    ASSERT_TRUE(icon.ok());
-    for (int y = 0; y < 16; ++y) {
-        const bool opaque = y >= 4 && y < 12;
-        EXPECT_EQ(icon.mask.pixel(0, y), opaque ? kBlack : kWhite) << y;
-        EXPECT_EQ(icon.image.pixel(15, y), opaque ? rgb(200, 10, 10) : kBlack) << y;
-    }
+    Plane mask(16, 16, kWhite), colour(16, 16, kBlack);
+    fillRect(mask, 0, 4, 16, 12, kBlack);
+    fillRect(colour, 0, 4, 16, 12, rgb(200, 10, 10));
+    EXPECT_EQ(icon.mask, mask);
+    EXPECT_EQ(icon.image, colour);
     // With no size the nearest is taken, the larger of two as near.
     image = QImage(40, 40, QImage::Format_RGB32);
     ASSERT_TRUE(image.save(in));
     EXPECT_EQ(cli({"convert", in, out}).out, in + ": 40 x 40 centred in a 48 x 48 icon\n");
 }
 
-QByteArray dll(const std::vector<std::pair<QString, QByteArray>>& icons, const char* target) {
-    QString error;
-    const QByteArray bytes = PeLibraryBuilder{target, icons}.build(error);
-    EXPECT_FALSE(bytes.isEmpty()) << error.toStdString();
-    return bytes;
-}
-
-TEST_F(CliTest, ExtractGivesWhatWrestoolGivesAndLibrariesReadBack) {
-    const std::vector<std::pair<QString, QByteArray>> icons{
-        {"3", joinIcons({patternIcon(16, 1, 16), patternIcon(32, 2), patternIcon(48, 3, 2)})},
-        {"APP", joinIcons({patternIcon(32, 4, 256)})}};
-    for (const char* target : {"x86_64", "i686"}) {
-        const QString library = make("lib.dll", dll(icons, target));
-        QDir(path("ours")).removeRecursively();
-        QDir(path("theirs")).removeRecursively();
-        ASSERT_EQ(cli({"extract", library, "-o", path("ours")}).code, 0);
-        QDir().mkpath(path("theirs"));
-        ASSERT_EQ(run("wrestool", {"-x", "-t14", library, "-o", path("theirs")}).code, 0);
-        const auto ours = filesIn(path("ours")), theirs = filesIn(path("theirs"));
-        ASSERT_EQ(ours.size(), 2u);
-        // wrestool sizes its file as the group resource plus the directory
-        // and the images, so behind the images it writes as many bytes
-        // again as the group resource holds (6 + 14 per image), outside
-        // every image the directory names.
-        for (const auto& [name, images] :
-             {std::pair{QString("3"), 3}, std::pair{QString("APP"), 1}}) {
-            const QByteArray mine = ours.at("lib_" + name + ".ico");
-            const QByteArray theirsFile = theirs.at("lib.dll_14_" + name + ".ico");
-            EXPECT_EQ(theirsFile.left(mine.size()), mine) << target << name.toStdString();
-            EXPECT_EQ(theirsFile.size() - mine.size(), 6 + 14 * images) << target;
-            expectIcotoolReads(path("ours/lib_" + name + ".ico"));
+TEST_F(CliTest, ExtractGivesBackALibrarysIconFilesAsWrestoolDoes) {
+    const QByteArray a = joinIcons(
+                         {patternIcon(16, 1, 16), patternIcon(32, 2), patternIcon(48, 3, 2)}),
+                     b = joinIcons({patternIcon(32, 4, 256)});
+    const QString dll = make("lib.dll", PeLibraryBuilder{"x86_64", {{"3", a}, {"APP", b}}}.build());
+    ASSERT_EQ(cli({"library", path("lib.icl"), make("a.ico", a), make("b.ico", b)}).code, 0);
+    // The DLL names its groups, the icon library this program writes numbers them.
+    const std::tuple<QString, QString, QString> libraries[] = {{dll, "3", "APP"},
+                                                               {path("lib.icl"), "1", "2"}};
+    for (const auto& [library, first, second] : libraries) {
+        QDir(path("out")).removeRecursively();
+        ASSERT_EQ(cli({"extract", library, "-o", path("out")}).code, 0);
+        EXPECT_EQ(filesIn(path("out")),
+                  (std::map<QString, QByteArray>{{"lib_" + first + ".ico", a},
+                                                 {"lib_" + second + ".ico", b}}));
+        const Outcome listed = run("wrestool", {"-l", library});
+        EXPECT_EQ(listed.out.count("--type=14"), 2) << listed.out.toStdString();
+        EXPECT_EQ(listed.out.count("--type=3"), 4) << listed.out.toStdString();
+        // wrestool writes the icon file, then a tail of its own.
+        for (const auto& [group, icon] : {std::pair{first, a}, std::pair{second, b}}) {
+            ASSERT_EQ(
+                run("wrestool", {"-x", "-t14", "-n", group, library, "-o", path("w.ico")}).code, 0);
+            EXPECT_EQ(read(path("w.ico")).left(icon.size()), icon) << group.toStdString();
         }
-    }
-
-    // A library of icon files gives back those files, byte for byte, to this
-    // reader and to wrestool's.
-    const QString a = make("a.ico", icons[0].second), b = make("b.ico", icons[1].second);
-    ASSERT_EQ(cli({"library", path("lib.icl"), a, b}).code, 0);
-    ASSERT_EQ(cli({"extract", path("lib.icl"), "-o", path("icl")}).code, 0);
-    EXPECT_EQ(filesIn(path("icl")),
-              (std::map<QString, QByteArray>{{"lib_1.ico", read(a)}, {"lib_2.ico", read(b)}}));
-    const Outcome listed = run("wrestool", {"-l", path("lib.icl")});
-    EXPECT_EQ(listed.code, 0);
-    EXPECT_EQ(listed.out.count("--type=14"), 2) << listed.out.toStdString();
-    EXPECT_EQ(listed.out.count("--type=3"), 4) << listed.out.toStdString();
-    for (int group : {1, 2}) {
-        const QString extracted = path(QString("w%1.ico").arg(group));
-        ASSERT_EQ(run("wrestool", {"-x", "-t14", "-n", QString::number(group), path("lib.icl"),
-                                   "-o", extracted})
-                      .code,
-                  0);
-        expectIcotoolReads(extracted);
     }
 
     // An animated cursor: one file per step; --size 32 gives what Extract
@@ -305,12 +215,11 @@ TEST_F(CliTest, ExtractGivesWhatWrestoolGivesAndLibrariesReadBack) {
     EXPECT_EQ(
         read(path("ani32/walk_0.ico")),
         IcoFile::iconBytes(shown.mask, shown.image, ModPalette::countColours(shown.image, true)));
-    expectIcotoolReads(path("ani32/walk_0.ico"));
 }
 
-TEST_F(CliTest, BuildGivesTheBuildersCreateBytes) {
-    // 16 x 16 at 24 bits and 32 x 32 at 1 bit, a second 32 x 32 1-bit icon
-    // that replaces the first, and a multi-image file that is refused.
+TEST_F(CliTest, BuildAddsEveryFileItCanAndNamesTheOneItRefuses) {
+    // A 16 x 16 at 24 bits, a 32 x 32 at 1 bit and a second one that
+    // replaces it; the multi-image file is refused and the rest still built.
     const QString a = make("a.ico", patternIcon(16, 1)), b = make("b.ico", patternIcon(32, 2, 2)),
                   c = make("c.ico", patternIcon(32, 3, 2)),
                   multi = make("m.ico", joinIcons({patternIcon(16, 4), patternIcon(32, 4)}));
@@ -321,21 +230,14 @@ TEST_F(CliTest, BuildGivesTheBuildersCreateBytes) {
     MultiIconResource builder;
     for (const QString& file : {a, b, c})
         builder.add(read(file));
-    const QByteArray built = read(path("out.ico"));
-    EXPECT_EQ(built, builder.toBytes());
-    // The 24-bit entry first, at 6 + 16 x 2; the next image 872 bytes on.
-    const IconDirectory directory = *IconDirectory::read(ByteView(built));
-    ASSERT_EQ(directory.entries.size(), 2u);
-    EXPECT_EQ(directory.entries[0].imageOffset, 38);
-    EXPECT_EQ(directory.entries[1].imageOffset, 910);
-    EXPECT_EQ(built.mid(910), read(c).mid(22));
-    expectIcotoolReads(path("out.ico"));
+    EXPECT_EQ(read(path("out.ico")), builder.toBytes());
 }
 
 TEST_F(CliTest, InfoListsEveryImageOfEveryIcon) {
     const QString ico = make("two.ico", joinIcons({patternIcon(16, 1, 16), patternIcon(32, 2)}));
     const QString cur = make("p.cur", IcoFile::cursorBytes(Plane(16, 16), Plane(16, 16), 2, 5, 7));
-    const QString lib = make("l.dll", dll({{"9", joinIcons({patternIcon(48, 3, 2)})}}, "x86_64"));
+    const QString lib = make(
+        "l.dll", PeLibraryBuilder{"x86_64", {{"9", joinIcons({patternIcon(48, 3, 2)})}}}.build());
     const Outcome r = cli({"info", ico, cur, lib});
     EXPECT_EQ(r.code, 0);
     EXPECT_EQ(r.out, ico + "\t0\t16x16\t4\ticon\t-\n" + ico + "\t1\t32x32\t24\ticon\t-\n" + cur +

@@ -2,15 +2,6 @@
 
 #include <algorithm>
 
-IcoBuilder& IcoBuilder::entry(int size, int bitCount, qint64 bytesInRes, qint64 imageOffset) {
-    return u8(size).u8(size).u16(0).u16(1).u16(bitCount).u32(bytesInRes).u32(imageOffset);
-}
-
-IcoBuilder& IcoBuilder::info(qint64 width, qint64 height, int bitCount, qint64 imageSize) {
-    u32(40).u32(width).u32(height).u16(1).u16(bitCount).u32(0).u32(imageSize);
-    return u32(0).u32(0).u32(0).u32(0);
-}
-
 StoredImage::StoredImage(int size_, int depth_, std::vector<Colour> table_)
     : size(size_), depth(depth_), table(std::move(table_)),
       colourRows(colourRowBytes() * size, '\0'), maskRows(maskRowBytes() * size, '\0') {}
@@ -20,16 +11,6 @@ void StoredImage::setIndex(int x, int y, int index) {
     char& byte = colourRows[(size - 1 - y) * colourRowBytes() + bit / 8];
     const int shift = 8 - depth - static_cast<int>(bit % 8), bits = (1 << depth) - 1;
     byte = static_cast<char>((byte & ~(bits << shift)) | (index & bits) << shift);
-}
-
-void StoredImage::setColour(int x, int y, Colour c) {
-    const qint64 at = (size - 1 - y) * colourRowBytes() + static_cast<qint64>(x) * (depth / 8);
-    colourRows.replace(at, 3, IcoBuilder().u8(blueOf(c)).u8(greenOf(c)).u8(redOf(c)).bytes);
-}
-
-void StoredImage::setTransparent(int x, int y) {
-    char& byte = maskRows[(size - 1 - y) * maskRowBytes() + x / 8];
-    byte = static_cast<char>(byte | 0x80 >> (x % 8));
 }
 
 QByteArray StoredImage::data() const {
@@ -43,15 +24,13 @@ QByteArray StoredImage::data() const {
 QByteArray icoFile(const std::vector<StoredImage>& images, int type) {
     IcoBuilder b;
     b.header(type, static_cast<int>(images.size()));
-    qint64 offset = 6 + 16 * static_cast<qint64>(images.size());
+    QByteArray data;
     for (const StoredImage& image : images) {
-        const qint64 length = image.data().size();
-        b.entry(image.size, image.depth, length, offset);
-        offset += length;
+        const qint64 offset = 6 + 16 * static_cast<qint64>(images.size()) + data.size();
+        b.entry(image.size, image.depth, image.data().size(), offset);
+        data += image.data();
     }
-    for (const StoredImage& image : images)
-        b.bytes.append(image.data());
-    return b.bytes;
+    return b.bytes + data;
 }
 
 TestIcon::TestIcon(int size, int depth)

@@ -16,9 +16,14 @@ struct IcoBuilder {
     IcoBuilder& u32(qint64 v) { return u16(static_cast<int>(v)).u16(static_cast<int>(v >> 16)); }
     IcoBuilder& header(int type, int count) { return u16(0).u16(type).u16(count); }
     // A square image's directory entry: no colour count, one plane.
-    IcoBuilder& entry(int size, int bitCount, qint64 bytesInRes, qint64 imageOffset);
+    IcoBuilder& entry(int size, int bitCount, qint64 bytesInRes, qint64 imageOffset) {
+        return u8(size).u8(size).u16(0).u16(1).u16(bitCount).u32(bytesInRes).u32(imageOffset);
+    }
     // A BITMAPINFOHEADER of 40 bytes with every other field 0.
-    IcoBuilder& info(qint64 width, qint64 height, int bitCount, qint64 imageSize = 0);
+    IcoBuilder& info(qint64 width, qint64 height, int bitCount, qint64 imageSize = 0) {
+        u32(40).u32(width).u32(height).u16(1).u16(bitCount).u32(0).u32(imageSize);
+        return u32(0).u32(0).u32(0).u32(0);
+    }
 
     QByteArray bytes;
 };
@@ -35,8 +40,14 @@ struct StoredImage {
 
     // (x, y) counted from the top, as the document sees it.
     void setIndex(int x, int y, int index);
-    void setColour(int x, int y, Colour c);
-    void setTransparent(int x, int y);
+    void setColour(int x, int y, Colour c) {
+        const qint64 at = (size - 1 - y) * colourRowBytes() + static_cast<qint64>(x) * (depth / 8);
+        colourRows.replace(at, 3, IcoBuilder().u8(blueOf(c)).u8(greenOf(c)).u8(redOf(c)).bytes);
+    }
+    void setTransparent(int x, int y) {
+        char& byte = maskRows[(size - 1 - y) * maskRowBytes() + x / 8];
+        byte = static_cast<char>(byte | 0x80 >> (x % 8));
+    }
     qint64 colourRowBytes() const { return (size * depth + 31) / 32 * 4; }
     qint64 maskRowBytes() const { return (size + 31) / 32 * 4; }
     // BITMAPINFOHEADER, table, colour rows, mask rows.

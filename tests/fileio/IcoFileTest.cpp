@@ -8,18 +8,10 @@
 
 namespace {
 
-// Distinct colours, so a wrong index shows as a wrong colour.
-std::vector<Colour> distinct(int entries) {
-    std::vector<Colour> table;
-    for (int i = 0; i < entries; ++i)
-        table.push_back(rgb(i, 255 - i, (i * 37) & 0xFF));
-    return table;
-}
-
 TEST(IcoFileTest, ListingNamesEveryEntryBySizeAndDepthInDirectoryOrder) {
-    QByteArray file =
-        icoFile({StoredImage(16, 4, distinct(16)), StoredImage(32, 8, distinct(256)),
-                 StoredImage(48, 1, distinct(2)), StoredImage(24, 24), StoredImage(64, 32)});
+    QByteArray file = icoFile(
+        {StoredImage(16, 4, std::vector<Colour>(16)), StoredImage(32, 8, std::vector<Colour>(256)),
+         StoredImage(48, 1, std::vector<Colour>(2)), StoredImage(24, 24), StoredImage(64, 32)});
     // The fourth image's biHeight made odd: it is halved as a real number.
     file.replace(qFromLittleEndian<qint32>(file.constData() + 6 + 3 * 16 + 12) + 8, 4, le(31, 4));
     const std::vector<IconListLine> expected = {{"16 x 16 ... 16 Color", 4},

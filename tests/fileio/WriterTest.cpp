@@ -1,4 +1,5 @@
 #include "IcoBuilder.h"
+#include "support/AsciiArt.h"
 
 #include "fileio/BmpFile.h"
 #include "fileio/IcoFile.h"
@@ -10,7 +11,7 @@ namespace {
 
 constexpr int kTrue = -1;
 
-TEST(WriterTest, IconsAndBitmapsHaveTheLengthsAndHeadersOfTheirDepthAndSize) {
+TEST(WriterTest, IconsCursorsAndBitmapsHaveTheLengthsAndHeadersOfTheirDepthAndSize) {
     // Size, colour count, depth, icon and bitmap file lengths, pixel offset.
     const std::tuple<int, int, int, int, int, int> layouts[] = {
         {16, 2, 1, 198, 126, 62},       {16, 16, 4, 318, 246, 118},
@@ -30,12 +31,16 @@ TEST(WriterTest, IconsAndBitmapsHaveTheLengthsAndHeadersOfTheirDepthAndSize) {
         if (depth < 8) { // the 2- and 16-entry tables are written all black
             EXPECT_EQ(icon.mid(62, 4 << depth), QByteArray(4 << depth, 0));
         }
+        // A cursor is the icon with type 2 and the hot spot in its entry.
+        EXPECT_EQ(IcoFile::cursorBytes(Plane(size, size), image, colourCount, 5, 7),
+                  QByteArray(icon).replace(2, 2, le(2, 2)).replace(10, 4, le(5, 2) + le(7, 2)));
         const QByteArray bitmap = BmpFile::bytes(image, colourCount);
         EXPECT_EQ(bitmap.size(), bitmapSize);
         IcoBuilder file;
         file.u8('B').u8('M').u32(bitmapSize).u32(0).u32(pixelOffset);
         EXPECT_EQ(bitmap.left(54), file.info(size, size, depth, bitmapSize - pixelOffset).bytes);
     }
+    EXPECT_TRUE(IcoFile::cursorBytes(Plane(300, 300), Plane(300, 300), 2, 0, 0).isEmpty());
 }
 
 TEST(WriterTest, MonochromeRowsAreBottomUpWithTheirPadding) {
@@ -68,25 +73,20 @@ TEST(WriterTest, EightBitIconWritesItsPaletteAndIndices) {
 }
 
 TEST(WriterTest, ColoursMissingFromTheTableKeepThePreviousIndex) {
-    const Colour a = rgb(1, 1, 1), b = rgb(2, 2, 2), unknown = rgb(9, 9, 9);
-    const auto row = [](std::vector<Colour> pixels) {
-        Plane plane(6, 1);
-        for (int x = 0; x < 6; ++x)
-            plane.setPixel(x, 0, pixels[x]);
-        return plane;
-    };
+    const Colour a = rgb(1, 1, 1), b = rgb(2, 2, 2);
+    const AsciiArt::Palette colours{{'a', a}, {'b', b}, {'w', kWhite}, {'?', rgb(9, 9, 9)}};
     ColourTable table(256, kBlack);
     table[7] = table[12] = a; // the first copy wins
     table[9] = b;
     QByteArray eight, four, black;
-    PixelEncoder::encode8(row({unknown, a, unknown, kWhite, unknown, b}), table, eight);
+    PixelEncoder::encode8(AsciiArt::toPlane({"?a?w?b"}, colours), table, eight);
     EXPECT_EQ(eight, QByteArray("\0\7\7\xFF\xFF\x09\0\0", 8)); // padded to 8 bytes
 
     // At 4 bits each half of a byte remembers its own last index.
     ColourTable table16(16, kWhite);
     table16[3] = a;
     table16[5] = b;
-    const Plane fourRow = row({a, b, unknown, unknown, b, unknown});
+    const Plane fourRow = AsciiArt::toPlane({"ab??b?"}, colours);
     PixelEncoder::encode4(fourRow, table16, four);
     EXPECT_EQ(four, QByteArray("\x35\x35\x55\0", 4));
     // With the all-black table of 4-bit files only black has an index.
@@ -94,34 +94,20 @@ TEST(WriterTest, ColoursMissingFromTheTableKeepThePreviousIndex) {
     EXPECT_EQ(black, QByteArray(4, 0));
 }
 
-TEST(WriterTest, CursorIsTheIconWithTypeTwoAndTheHotSpotInItsEntry) {
-    const Plane image(32, 32, rgb(7, 7, 7));
-    QByteArray icon = IcoFile::iconBytes(Plane(32, 32), image, 256);
-    EXPECT_EQ(IcoFile::cursorBytes(Plane(32, 32), image, 256, 5, 7),
-              icon.replace(2, 2, le(2, 2)).replace(10, 4, le(5, 2) + le(7, 2)));
-    EXPECT_TRUE(IcoFile::cursorBytes(Plane(300, 300), Plane(300, 300), 2, 0, 0).isEmpty());
-}
-
 TEST(WriterTest, EditedImageOfThreeComesFirstAndTheOthersFollowWithNewOffsets) {
-    StoredImage first(16, 4, std::vector<Colour>(16, rgb(1, 1, 1)));
-    first.colourRows.fill('\x12');
-    StoredImage third(48, 24);
-    third.colourRows.fill('\x33');
-    const QByteArray source =
-        icoFile({first, StoredImage(32, 8, std::vector<Colour>(256, rgb(2, 2, 2))), third});
-    Plane image(32, 32, rgb(200, 100, 50)), mask(32, 32, kBlack);
-    mask.setPixel(0, 0, kWhite);
-
+    const TestIcon first(16, 4), third(48, 24), edited(32, 24);
+    const QByteArray source = icoFile({first.stored, TestIcon(32, 8).stored, third.stored});
+    const Plane &mask = edited.mask, &image = edited.image;
     const auto out = IcoFile(source).withImageReplaced(mask, image, kTrue, {1, 8, 32, 32});
     ASSERT_TRUE(out);
-    const qint64 start = 6 + 3 * 16, length = 3240, firstLength = first.data().size();
+    const qint64 start = 6 + 3 * 16, length = 3240, firstLength = first.stored.data().size();
     // The header, the new entry, then entries 0 and 2 with only their offsets
     // changed; the image as a one-image icon has it, its length in biSizeImage.
     QByteArray expected = source.left(6) + IcoBuilder().entry(32, 24, length, start).bytes;
     expected += source.mid(6, 12) + le(start + length, 4) + source.mid(38, 12) +
                 le(start + length + firstLength, 4);
     expected += IcoFile::iconBytes(mask, image, kTrue).mid(22).replace(20, 4, le(length, 4));
-    EXPECT_EQ(*out, expected + first.data() + third.data());
+    EXPECT_EQ(*out, expected + first.stored.data() + third.stored.data());
 }
 
 TEST(WriterTest, MultiRewriteOfAnUnreadableSourceOrChoiceGivesNoFile) {

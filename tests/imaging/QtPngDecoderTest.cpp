@@ -1,4 +1,5 @@
 #include "imaging/QtPngDecoder.h"
+#include "fileio/IcoBuilder.h"
 #include "fileio/IcoIconSource.h"
 
 #include <QBuffer>
@@ -22,11 +23,7 @@ TEST(QtPngDecoderTest, APngImageGivesPlanesLikeA32BitImageWithAlpha) {
     buffer.open(QIODevice::WriteOnly);
     ASSERT_TRUE(picture.save(&buffer, "PNG"));
     // A one-image icon file: the directory, then the PNG at offset 22.
-    const auto length = static_cast<char>(png.size() & 0xFF),
-               high = static_cast<char>(png.size() >> 8);
-    const char directory[22] = {0, 0, 1,  0, 1,      0,    64, 64, 0, 0,
-                                1, 0, 32, 0, length, high, 0,  0,  22};
-    const IcoIconSource icon(QByteArray(directory, 22) + png);
+    const IcoIconSource icon(IcoBuilder().header(1, 1).entry(64, 32, png.size(), 22).bytes + png);
 
     PngDecoder::install(nullptr);
     EXPECT_FALSE(icon.image(0).ok());

@@ -7,34 +7,27 @@ namespace {
 QByteArray chunk(const char* id, const QByteArray& body) {
     QByteArray out(id, 4);
     ByteWriter(out).u32(static_cast<quint32>(body.size()));
-    out += body;
-    if (body.size() % 2)
-        out += '\0';
+    return out + body + QByteArray(body.size() % 2, '\0');
+}
+
+QByteArray words(const std::vector<quint32>& values) {
+    QByteArray out;
+    for (quint32 v : values)
+        ByteWriter(out).u32(v);
     return out;
 }
 
 } // namespace
 
 QByteArray AniWriter::bytes() const {
-    QByteArray body("ACON");
-    if (withHeader) {
-        QByteArray anih;
-        ByteWriter w(anih);
-        // cbSize, frames, steps, width, height, bit count, planes, rate, flags
-        for (quint32 v : {36u, static_cast<quint32>(frames.size()), steps, 0u, 0u, 0u, 1u, 10u,
-                          sequence ? 3u : 1u})
-            w.u32(v);
-        body += chunk("anih", anih);
-    }
-    if (sequence) {
-        QByteArray seq;
-        for (quint32 frame : *sequence)
-            ByteWriter(seq).u32(frame);
-        body += chunk("seq ", seq);
-    }
-    QByteArray list("fram");
+    QByteArray body("ACON"), list("fram");
+    // cbSize, frames, steps, width, height, bit count, planes, rate, flags
+    const auto count = static_cast<quint32>(frames.size());
+    if (withHeader)
+        body += chunk("anih", words({36, count, steps, 0, 0, 0, 1, 10, sequence ? 3u : 1u}));
+    if (sequence)
+        body += chunk("seq ", words(*sequence));
     for (const QByteArray& frame : frames)
         list += chunk("icon", frame);
-    body += chunk("LIST", list);
-    return chunk("RIFF", body);
+    return chunk("RIFF", body + chunk("LIST", list));
 }

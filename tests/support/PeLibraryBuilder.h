@@ -1,9 +1,14 @@
 #pragma once
 
 #include <QByteArray>
+#include <QFile>
+#include <QProcess>
 #include <QString>
+#include <QTemporaryDir>
 #include <utility>
 #include <vector>
+
+#include <gtest/gtest.h>
 
 // Builds a real resource-only DLL with the MinGW binutils (windres, then ld):
 // one ICON line per (name, .ico bytes). target is "x86_64" (PE32+) or "i686"
@@ -12,6 +17,41 @@ struct PeLibraryBuilder {
     QString target;
     std::vector<std::pair<QString, QByteArray>> icons;
 
-    // The DLL's bytes, or empty with error saying which step failed.
-    QByteArray build(QString& error) const;
+    // The DLL's bytes, or empty with error saying what failed.
+    QByteArray build(QString& error) const {
+        QTemporaryDir dir;
+        QByteArray script;
+        for (std::size_t i = 0; i < icons.size(); ++i) {
+            QFile ico(dir.filePath(QString("icon%1.ico").arg(i)));
+            if (ico.open(QIODevice::WriteOnly))
+                ico.write(icons[i].second);
+            script += icons[i].first.toUtf8() + " ICON \"" + ico.fileName().toUtf8() + "\"\n";
+        }
+        QFile rc(dir.filePath("icons.rc")), dll(dir.filePath("icons.dll"));
+        if (rc.open(QIODevice::WriteOnly))
+            rc.write(script);
+        rc.close();
+        // The script has no directives, so it needs no C preprocessor (and no
+        // cross compiler): cat passes it through.
+        QProcess tools;
+        tools.setWorkingDirectory(dir.path());
+        tools.start("sh", {"-ec", QString("%1windres --preprocessor=cat -O coff -i icons.rc -o "
+                                          "icons.o; %1ld --dll -e 0 -o icons.dll icons.o")
+                                      .arg(target + "-w64-mingw32-")});
+        if (!tools.waitForFinished(60000) || tools.exitCode() != 0 ||
+            !dll.open(QIODevice::ReadOnly)) {
+            error = "windres or ld failed (install binutils-mingw-w64): " +
+                    QString::fromLocal8Bit(tools.readAllStandardError());
+            return {};
+        }
+        return dll.readAll();
+    }
+
+    // The DLL's bytes; a failure fails the test and says what failed.
+    QByteArray build() const {
+        QString error;
+        const QByteArray dll = build(error);
+        EXPECT_FALSE(dll.isEmpty()) << error.toStdString();
+        return dll;
+    }
 };

@@ -3,16 +3,22 @@
 #include "fileio/NeLibraryWriter.h"
 #include "support/AniWriter.h"
 #include "support/MultiIcon.h"
+#include "support/PeLibraryBuilder.h"
 
+#include "fileio/IconLayout.h"
 #include "fileio/IconSourceOpener.h"
 
+#include <QFile>
+#include <QTemporaryDir>
+#include <QtEndian>
 #include <gtest/gtest.h>
 
 namespace {
 
 // Each frame and group is told apart by its seed; -1 stands for a fault.
-std::vector<int> seedsShown(const QByteArray& bytes, const std::vector<QByteArray>& bySeed) {
-    const auto opened = IconSourceOpener::open(bytes);
+// Past the last icon there is none.
+std::vector<int> seedsShown(const IconSourceOpener::Opened& opened,
+                            const std::vector<QByteArray>& bySeed) {
     if (!opened.source)
         return {-1, static_cast<int>(opened.fault)};
     std::vector<int> seeds;
@@ -26,6 +32,7 @@ std::vector<int> seedsShown(const QByteArray& bytes, const std::vector<QByteArra
         }
         seeds.push_back(seed);
     }
+    EXPECT_FALSE(opened.source->image(opened.source->count()).ok());
     return seeds;
 }
 
@@ -56,7 +63,7 @@ TEST(AniIconSourceTest, OneIconPerStepMappedThroughTheSequence) {
          {-1, static_cast<int>(ReadFault::Malformed)}},
     };
     for (const auto& [what, bytes, seeds] : cases)
-        EXPECT_EQ(seedsShown(bytes, frames), seeds) << what;
+        EXPECT_EQ(seedsShown(IconSourceOpener::open(bytes), frames), seeds) << what;
 }
 
 TEST(NeIconSourceTest, GroupsInTableOrderFromShiftedOffsets) {
@@ -81,25 +88,21 @@ TEST(NeIconSourceTest, GroupsInTableOrderFromShiftedOffsets) {
          {-1, 1, 2}},
     };
     for (const auto& [what, bytes, seeds] : cases)
-        EXPECT_EQ(seedsShown(bytes, shown), seeds) << what;
+        EXPECT_EQ(seedsShown(IconSourceOpener::open(bytes), shown), seeds) << what;
 }
 
 TEST(IconSourceOpenerTest, IconFilesHoldOneIconAndAlphaHidesFaintPixels) {
     StoredImage alpha(32, 32);
-    // Alpha 0, 127, 128 and 255 on white, and an AND-masked opaque pixel.
-    const int alphas[] = {0, 127, 128, 255};
-    for (int x = 0; x < 4; ++x) {
+    // Alpha 0, 127, 128 and 255 on white, then an AND-masked opaque white.
+    const int alphas[] = {0, 127, 128, 255, 255};
+    for (int x = 0; x < 5; ++x) {
         alpha.setColour(x, 0, kWhite);
         alpha.colourRows[31 * 128 + 4 * x + 3] = static_cast<char>(alphas[x]);
     }
-    alpha.setColour(4, 0, kWhite);
-    alpha.colourRows[31 * 128 + 4 * 4 + 3] = static_cast<char>(255);
     alpha.setTransparent(4, 0);
     const auto opened = IconSourceOpener::open(icoFile({alpha}));
     ASSERT_TRUE(opened.source);
-    ASSERT_EQ(opened.source->count(), 1);
     const IconLoadResult r = opened.source->image(0);
-    ASSERT_TRUE(r.ok());
     const Colour masks[] = {kWhite, kWhite, kBlack, kBlack, kWhite, kWhite};
     const Colour colours[] = {kBlack, kBlack, rgb(128, 128, 128), kWhite, kWhite, kBlack};
     for (int x = 0; x < 6; ++x) {
@@ -119,6 +122,73 @@ TEST(IconSourceOpenerTest, IconFilesHoldOneIconAndAlphaHidesFaintPixels) {
         EXPECT_EQ(file.fault, fault) << what;
     }
     EXPECT_EQ(IconSourceOpener::openFile("/nonexistent/shell32.dll").fault, ReadFault::Unreadable);
+}
+
+// Four groups as windres lists them: the named one first, then IDs 2, 5, 7.
+// Each group's best image is marked: "a" and "b" hold a 32 x 32 at two
+// depths (the 24-bit one wins), "c" holds 16 and 48 only (48 wins the tie,
+// shrunk), "d" holds one 16 x 16 (grown).
+struct Library {
+    QByteArray a32 = patternIcon(32, 1), b32 = patternIcon(32, 2), c48 = patternIcon(48, 3),
+               d16 = patternIcon(16, 4);
+    std::vector<std::pair<QString, QByteArray>> rc{
+        {"7", joinIcons({d16})},
+        {"5", joinIcons({patternIcon(16, 9), patternIcon(32, 9, 2), b32, patternIcon(48, 9)})},
+        {"ICONS", joinIcons({patternIcon(48, 8), a32, patternIcon(32, 8, 2)})},
+        {"2", joinIcons({patternIcon(16, 7), c48})},
+    };
+    // Directory order: named, then 2, 5, 7.
+    std::vector<QByteArray> shown{a32, c48, b32, d16};
+};
+
+// The 64-bit library is opened from disk, padded past the largest icon file
+// with zeros after its last section, as an installer's payload would be.
+TEST(PeIconSourceTest, EveryGroupOfARealLibraryShowsItsBestImageInDirectoryOrder) {
+    const Library library;
+    QTemporaryDir folder;
+    QFile file(folder.filePath("big.dll"));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(PeLibraryBuilder{"x86_64", library.rc}.build());
+    ASSERT_TRUE(file.resize(IconLayout::kMaxFileBytes + 4096));
+    file.close();
+    const std::vector<int> inOrder{0, 1, 2, 3};
+    EXPECT_EQ(seedsShown(IconSourceOpener::openFile(file.fileName()), library.shown), inOrder);
+    const QByteArray pe32 = PeLibraryBuilder{"i686", library.rc}.build();
+    EXPECT_EQ(seedsShown(IconSourceOpener::open(pe32), library.shown), inOrder);
+}
+
+TEST(PeIconSourceTest, ACutOrCircularDirectoryGivesATypedFault) {
+    const QByteArray dll = PeLibraryBuilder{"x86_64", Library().rc}.build();
+    // The resource section's file offset, from its section header.
+    const qint64 root = qFromLittleEndian<quint32>(dll.constData() + dll.indexOf(".rsrc") + 20);
+    const auto patched = [&dll](qint64 at, qint64 value, int length) {
+        return QByteArray(dll).replace(at, length, le(value, length));
+    };
+    // windres lists RT_ICON (3) before RT_GROUP_ICON (14) at the root.
+    const qint64 groupType = root + 16 + 8;
+    const std::tuple<const char*, QByteArray, ReadFault> cases[] = {
+        {"cut in the root", dll.left(root + 20), ReadFault::OutOfBounds},
+        {"cut in the headers", dll.left(0x90), ReadFault::OutOfBounds},
+        {"root counts 65535 names", patched(root + 12, 0xFFFF, 2), ReadFault::OutOfBounds},
+        {"group type points at the root", patched(groupType + 4, 0x80000000, 4),
+         ReadFault::Malformed},
+        {"group type is a leaf", patched(groupType + 7, 0, 1), ReadFault::Malformed},
+        {"not an optional header", patched(dll.indexOf("PE\0\0") + 24, 0x30B, 2),
+         ReadFault::Unsupported},
+    };
+    for (const auto& [what, bytes, fault] : cases) {
+        const auto opened = IconSourceOpener::open(bytes);
+        EXPECT_EQ(opened.source, nullptr) << what;
+        EXPECT_EQ(opened.fault, fault) << what;
+    }
+    // Every cut of the file parses to a fault or to groups that decode or fail.
+    for (qint64 length = 0; length < dll.size(); length += 13) {
+        const auto opened = IconSourceOpener::open(dll.left(length));
+        if (!opened.source)
+            continue;
+        for (int i = 0; i < opened.source->count(); ++i)
+            EXPECT_EQ(opened.source->image(i).mask.isEmpty(), !opened.source->image(i).ok());
+    }
 }
 
 } // namespace
