@@ -127,7 +127,6 @@ TEST_F(FrmMirTest, CreateIsEnabledOnlyWhileASlotIsFilledAndWritesThem) {
 using MainWindowMirTest = MainWindowFixture;
 
 TEST_F(MainWindowMirTest, CtrlMOpensTheBuilderAndLeavesTheDocument) {
-    activate();
     const Plane before = editor().doc().PicImage;
     QString title;
     QTimer::singleShot(0, window.get(), [&] {

@@ -90,7 +90,6 @@ TEST_F(MainMenusTest, RecentEntriesAreShownWhenTheFileMenuOpens) {
 }
 
 TEST_F(MainMenusTest, ProductHelpTellsWhereTheDocumentationIs) {
-    activate();
     QTest::keyClick(window.get(), Qt::Key_F1);
     ASSERT_EQ(dialogs.messages.size(), 1u);
     EXPECT_EQ(dialogs.messages[0].title, "Brevik Deluxe");

@@ -47,7 +47,6 @@ TEST_F(MainWindowTest, StartsUntitledWithTheLayoutsClientAreaCentredAThirdDown) 
 }
 
 TEST_F(MainWindowTest, ToolButtonsCarryTheToolNamesAndNeverTakeTheFocus) {
-    activate();
     QStringList names;
     QWidget* focusBefore = QApplication::focusWidget();
     for (int i = 0; i < 12; ++i) {
@@ -78,7 +77,6 @@ TEST_F(MainWindowTest, ToolButtonsCarryTheToolNamesAndNeverTakeTheFocus) {
 }
 
 TEST_F(MainWindowTest, NewIconShortcutsRedrawTheCanvasAtTheirZoom) {
-    activate();
     const std::tuple<Qt::Key, int, int, QPoint> cases[] = {{Qt::Key_F1, 16, 24, {448, 30}},
                                                            {Qt::Key_F3, 48, 8, {432, 14}},
                                                            {Qt::Key_F2, 32, 12, {440, 22}}};
