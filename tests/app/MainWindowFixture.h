@@ -17,9 +17,10 @@
 
 // Starts the window with a settings store of its own in folder and makes it
 // the active one, so its shortcuts answer keys.
-inline void startActive(frmMain& window, const QTemporaryDir& folder, const QString& store) {
+inline void startActive(frmMain& window, const QTemporaryDir& folder, const QString& store,
+                        const QString& commandLine = {}) {
     window.editor().registry() = ModRegistry(folder.filePath(store));
-    window.startUp({});
+    window.startUp(commandLine);
     window.activateWindow();
     QApplication::processEvents();
 }
