@@ -32,9 +32,7 @@ TEST(TextDialog, RendersWhatIsTypedCutToTheIconAndOkTakesItWhileCancelTakesNothi
         QApplication::processEvents();
         // Cut to the longest start that fits in 16 pixels.
         const QString kept = dialog.Txt->text();
-        QImage device(16, 16, QImage::Format_RGB32);
-        device.setDotsPerMeterX(3780);
-        device.setDotsPerMeterY(3780);
+        const QImage device(16, 16, QImage::Format_RGB32);
         const QFontMetrics metrics(dialog.textFont(), &device);
         EXPECT_TRUE(!kept.isEmpty() && QString("Ttttt").startsWith(kept)) << kept.toStdString();
         EXPECT_LE(metrics.horizontalAdvance(kept), 16);
