@@ -14,35 +14,32 @@
 
 namespace {
 
-TEST(FrmHotSpot, ShowsTheCanvasAndOkAtOnceGivesTheTopLeftPixel) {
+TEST(FrmHotSpot, ShowsTheCanvasAndLeftClicksChooseWhileOnlyOkLowersTheFlag) {
     Plane canvas(385, 385); // every pixel differs, so a shifted copy shows
     for (int y = 0; y < 385; ++y)
         for (int x = 0; x < 385; ++x)
             canvas.setPixel(x, y, rgb(x % 256, y % 256, x / 256 * 16 + y / 256));
-    FrmHotSpot dialog(canvas, 12, 31, nullptr);
-    dialog.show();
-    EXPECT_EQ(dialog.windowTitle(), "Select Hot Spot");
-    const QImage shown = dialog.PicCursor->grab().toImage();
-    for (QPoint p : {QPoint(0, 0), QPoint(384, 384), QPoint(300, 271)}) {
-        const Colour c = canvas.pixel(p.x(), p.y());
-        EXPECT_EQ(shown.pixel(p), qRgb(redOf(c), greenOf(c), blueOf(c)));
+    for (const bool ok : {true, false}) {
+        FrmHotSpot dialog(canvas, 24, 15, nullptr);
+        dialog.show();
+        EXPECT_EQ(dialog.windowTitle(), "Select Hot Spot");
+        const QImage shown = dialog.PicCursor->grab().toImage();
+        for (QPoint p : {QPoint(0, 0), QPoint(384, 384), QPoint(300, 271)}) {
+            const Colour c = canvas.pixel(p.x(), p.y());
+            EXPECT_EQ(shown.pixel(p), qRgb(redOf(c), greenOf(c), blueOf(c)));
+        }
+        EXPECT_EQ(dialog.LblHotX->text() + dialog.LblHotY->text(), "0000");
+        QTest::mouseClick(dialog.PicCursor, Qt::LeftButton, {}, QPoint(383, 130));
+        QTest::mouseClick(dialog.PicCursor, Qt::RightButton, {}, QPoint(30, 30));
+        // Moving does not choose; each round moves to a new point, as QTest
+        // sends no move to where the pointer already is.
+        QTest::mouseMove(dialog.PicCursor, QPoint(ok ? 384 : 380, 50));
+        EXPECT_EQ(dialog.readoutText(), "15, 02");
+        EXPECT_EQ(dialog.LblHotX->text() + ", " + dialog.LblHotY->text(), "15, 05");
+        QTest::mouseClick(ok ? dialog.CmdOk : dialog.CmdCancel, Qt::LeftButton);
+        EXPECT_EQ(dialog.cancelled(), !ok);
+        EXPECT_EQ(std::pair(dialog.hotSpot().x, dialog.hotSpot().y), std::pair(15, 5));
     }
-    EXPECT_EQ(dialog.LblHotX->text() + dialog.LblHotY->text(), "0000");
-    QTest::mouseClick(dialog.CmdOk, Qt::LeftButton);
-    EXPECT_FALSE(dialog.cancelled());
-    EXPECT_EQ(std::pair(dialog.hotSpot().x, dialog.hotSpot().y), std::pair(0, 0));
-}
-
-TEST(FrmHotSpot, LeftClicksChooseAndCancelLeavesTheFlagRaised) {
-    FrmHotSpot dialog(Plane(385, 385, kWhite), 24, 15, nullptr);
-    dialog.show();
-    QTest::mouseClick(dialog.PicCursor, Qt::LeftButton, {}, QPoint(383, 130));
-    QTest::mouseClick(dialog.PicCursor, Qt::RightButton, {}, QPoint(30, 30));
-    QTest::mouseMove(dialog.PicCursor, QPoint(384, 50)); // moving does not choose
-    EXPECT_EQ(dialog.readoutText(), "15, 02");
-    EXPECT_EQ(dialog.LblHotX->text() + ", " + dialog.LblHotY->text(), "15, 05");
-    QTest::mouseClick(dialog.CmdCancel, Qt::LeftButton);
-    EXPECT_TRUE(dialog.cancelled());
 }
 
 // Escape and the close box are QDialog's own way out, as Cancel is; the

@@ -10,8 +10,6 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QScrollBar>
-#include <QTest>
-#include <QTimer>
 
 namespace {
 
@@ -90,25 +88,22 @@ TEST(FrmIcons, BrowseRefusesAFileWithoutIconsAndKeepsTheGrid) {
     EXPECT_EQ(folder, dir.path());
 }
 
-TEST(FrmIcons, ExtractOkGivesA32x32DocumentWhateverTheSizeBefore) {
+// Which icon the command makes of the choice is ExtractCommandTest's; here
+// Ctrl+E opens the browser at the start file and its answer reaches the core.
+TEST(FrmIcons, CtrlEOpensTheBrowserAndOnlyOkGivesItsChoice) {
     QTemporaryDir dir;
     const QString ani = writeAni(dir, "cursor.ani", 4);
-    for (const auto& [sizeIndex, ok] : {std::pair(2, true), std::pair(0, false)}) {
+    for (const bool ok : {true, false}) {
         QtDialogsWindow shell;
-        frmMain& window = shell.window;
-        window.editor().newIcon(sizeIndex);
-        window.editor().extraction().startFile = ani;
-        const int size = window.editor().doc().size;
-        QTimer::singleShot(0, &window, [ok = ok] {
-            auto* dialog = qobject_cast<FrmIcons*>(QApplication::activeModalWidget());
-            ASSERT_NE(dialog, nullptr);
-            clickAt(*dialog, 38 + 20, 20); // step 1 shows frame 1
-            QTest::mouseClick(ok ? dialog->CmdOk : dialog->CmdCancel, Qt::LeftButton);
-        });
-        QTest::keyClick(&window, Qt::Key_E, Qt::ControlModifier);
-        IconDocument& doc = window.editor().doc();
-        EXPECT_EQ(doc.size, ok ? 32 : size);
-        EXPECT_EQ(doc.PicImage == shownAs(kFrames[1]).image, ok);
+        IconDocument& doc = shell.window.editor().doc();
+        shell.window.editor().extraction().startFile = ani;
+        const Plane before = doc.PicImage;
+        const auto drive = [ok](FrmIcons& dialog) {
+            clickAt(dialog, 38 + 20, 20); // step 1 shows frame 1
+            QTest::mouseClick(ok ? dialog.CmdOk : dialog.CmdCancel, Qt::LeftButton);
+        };
+        EXPECT_TRUE(driveDialog<FrmIcons>(shell.window, Qt::ControlModifier | Qt::Key_E, drive));
+        EXPECT_EQ(doc.PicImage, ok ? shownAs(kFrames[1]).image : before);
         doc.modified = false; // nothing to save, so no prompt can wait for a user
     }
 }

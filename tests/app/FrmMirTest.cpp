@@ -7,8 +7,6 @@
 
 #include <QAction>
 #include <QMenu>
-#include <QTest>
-#include <QTimer>
 
 namespace {
 
@@ -127,17 +125,9 @@ TEST_F(FrmMirTest, CreateIsEnabledOnlyWhileASlotIsFilledAndWritesThem) {
 using MainWindowMirTest = MainWindowFixture;
 
 TEST_F(MainWindowMirTest, CtrlMOpensTheBuilderAndLeavesTheDocument) {
-    activate();
     const Plane before = editor().doc().PicImage;
-    QString title;
-    QTimer::singleShot(0, window.get(), [&] {
-        if (auto* form = qobject_cast<FrmMir*>(QApplication::activeModalWidget())) {
-            title = form->windowTitle();
-            form->MnuExit->trigger();
-        }
-    });
-    QTest::keyClick(window.get(), Qt::Key_M, Qt::ControlModifier);
-    EXPECT_EQ(title, "Create Multi Icon Resource");
+    EXPECT_TRUE(driveDialog<FrmMir>(*window, Qt::ControlModifier | Qt::Key_M,
+                                    [](FrmMir& form) { form.MnuExit->trigger(); }));
     EXPECT_EQ(editor().doc().PicImage, before);
     EXPECT_FALSE(editor().doc().modified);
 }

@@ -37,12 +37,3 @@ TEST(CaptureOnXServer, TakesTheColourUnderTheOutlineFromTheRealScreen) {
 }
 
 } // namespace
-
-int main(int argc, char** argv) {
-    // An X server's screen when there is one, else the offscreen platform.
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "xcb;offscreen");
-    QApplication app(argc, argv);
-    ::testing::InitGoogleTest(&argc, argv);
-    return RUN_ALL_TESTS();
-}
