@@ -42,6 +42,13 @@ class ToolsFixture : public EditorFixture {
 
     // Paints the whole icon in `background`, then the picture at (0, 0).
     void draw(const char* picture, char background);
+    // A fresh icon of the size index showing the picture, recorded as the
+    // first edit.
+    void startWith(int sizeIndex, const char* picture, char background) {
+        startWithSize(sizeIndex);
+        draw(picture, background);
+        editor->recordEdit();
+    }
     // The w x h block at (ox, oy) in letters.
     std::string picture(int ox, int oy, int w, int h, char background) const;
     // The block at (ox, oy) shows the picture and every pixel outside it the
