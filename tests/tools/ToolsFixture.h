@@ -4,6 +4,15 @@
 
 #include <string>
 
+// A plane whose every pixel has a colour of its own, (x, y, 7).
+inline Plane numberedPlane(int width, int height) {
+    Plane plane(width, height);
+    for (int y = 0; y < height; ++y)
+        for (int x = 0; x < width; ++x)
+            plane.setPixel(x, y, rgb(x, y, 7));
+    return plane;
+}
+
 // The editor fixture with the vocabulary of the tool and editing tests: icon
 // pixels as canvas points, and both planes as small pictures, '/' between
 // rows, in letters: 'k' black, 'g' green, 'r' red, 'b' blue (all opaque), 'i'
