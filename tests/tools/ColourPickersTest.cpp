@@ -1,27 +1,10 @@
 #include "tools/ColourPickers.h"
 #include "canvas/Resources.h"
 #include "tools/ButtonColours.h"
-#include "tools/HlsColour.h"
 
 #include <gtest/gtest.h>
 
 namespace {
-
-TEST(HlsColourTest, ConvertsHuesAndRoundsHalvesToEven) {
-    const struct {
-        double h, l, s;
-        Colour expected;
-    } cases[] = {
-        // clang-format off
-        {1, 0.5, 1, rgb(255, 255, 0)}, {3, 0.5, 1, rgb(0, 255, 255)}, {5, 0.5, 1, rgb(255, 0, 255)},
-        {0, 1, 1, rgb(255, 255, 255)}, {0, 0.3, 0, rgb(76, 76, 76)},
-        // 0.5 * 255 = 127.5 rounds to the even 128, not down to 127.
-        {0, 0.25, 1, rgb(128, 0, 0)},  {2.5, 0.75, 1, rgb(128, 255, 191)},
-        // clang-format on
-    };
-    for (const auto& c : cases)
-        EXPECT_EQ(hlsToRgb(c.h, c.l, c.s), c.expected) << c.h << " " << c.l << " " << c.s;
-}
 
 TEST(ColourPickersTest, ChartHasBlackAndWhiteEdgesAndPureHuesInTheMiddle) {
     const ColourPickers pickers;
@@ -39,6 +22,8 @@ TEST(ColourPickersTest, ChartHasBlackAndWhiteEdgesAndPureHuesInTheMiddle) {
         // clang-format off
         {25, 0, rgb(255, 0, 0)}, {25, 334, rgb(255, 0, 255)}, {12, 0, rgb(122, 0, 0)},
         {30, 100, rgb(154, 255, 51)}, {45, 167, rgb(204, 255, 229)},
+        // One point inside each sixth of the hue circle.
+        {20, 33, rgb(204, 101, 0)}, {30, 233, rgb(51, 155, 255)}, {20, 300, rgb(100, 0, 204)},
         // Lightness summed in single precision stays a hair below 0.1 here,
         // so the blue half-step 25.5 is not reached: 25, not 26.
         {5, 167, rgb(0, 51, 25)},
