@@ -96,34 +96,6 @@ TEST(ShapesTest, EllipsesFillTheirBoxLessTheRightAndBottomEdges) {
     }
 }
 
-TEST(ShapesTest, EveryEllipseTouchesItsBoxIsSymmetricAndHasUnbrokenRows) {
-    for (int h = 1; h <= 24; ++h)
-        for (int w = 1; w <= 24; ++w) {
-            SCOPED_TRACE(testing::Message() << w << " x " << h);
-            Plane plane(w + 2, h + 2, kWhite);
-            drawEllipse(plane, 1, 1, 1 + w, 1 + h, kInk, kFill);
-            bool top = false, bottom = false, left = false, right = false;
-            for (int y = 0; y < h + 2; ++y) {
-                int first = -1, last = -1;
-                for (int x = 0; x < w + 2; ++x) {
-                    const Colour c = plane.pixel(x, y);
-                    ASSERT_EQ(c, plane.pixel(w + 1 - x, y)) << x << "," << y;
-                    ASSERT_EQ(c, plane.pixel(x, h + 1 - y)) << x << "," << y;
-                    if (c == kWhite)
-                        continue;
-                    first = first < 0 ? x : first;
-                    last = x;
-                    top |= y == 1, bottom |= y == h, left |= x == 1, right |= x == w;
-                }
-                // Inside the box every row is one unbroken run.
-                ASSERT_EQ(first < 0, y == 0 || y == h + 1) << "row " << y;
-                for (int x = first; first >= 0 && x <= last; ++x)
-                    ASSERT_NE(plane.pixel(x, y), kWhite) << x << "," << y;
-            }
-            ASSERT_TRUE(top && bottom && left && right);
-        }
-}
-
 TEST(ShapesTest, InvertingFiguresDrawnTwiceLeaveThePlaneAsItWas) {
     // Every pixel a different colour, none white.
     Plane original(20, 16);
