@@ -14,11 +14,7 @@ const Pen kInk{kBlack, 1, PenMode::Copy};
 constexpr Colour kFill = 0x0000FF;
 
 TEST(ShapesTest, LinesLeaveOutTheirLastPointAndTakeTheUpperOrLeftPixelOnATie) {
-    const struct {
-        const char* name;
-        int x1, y1, x2, y2;
-        std::string expected;
-    } cases[] = {
+    const std::tuple<const char*, int, int, int, int, std::string> cases[] = {
         // clang-format off
         {"horizontal", 1, 1, 5, 1, text({".......", ".####..", ".......", ".......", "......."})},
         {"diagonal", 0, 0, 4, 4, text({"#......", ".#.....", "..#....", "...#...", "......."})},
@@ -32,11 +28,10 @@ TEST(ShapesTest, LinesLeaveOutTheirLastPointAndTakeTheUpperOrLeftPixelOnATie) {
         {"clipped", -2, 1, 9, 1, text({".......", "#######", ".......", ".......", "......."})},
         // clang-format on
     };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.name);
+    for (const auto& [what, x1, y1, x2, y2, expected] : cases) {
         Plane plane(7, 5, kWhite);
-        drawLine(plane, c.x1, c.y1, c.x2, c.y2, kInk);
-        EXPECT_EQ(fromPlane(plane, inkOnPaper()), c.expected);
+        drawLine(plane, x1, y1, x2, y2, kInk);
+        EXPECT_EQ(fromPlane(plane, inkOnPaper()), expected) << what;
     }
 }
 
@@ -66,10 +61,7 @@ TEST(ShapesTest, BoxesIncludeBothCornersAndAWidePenGrowsToBothSides) {
 TEST(ShapesTest, EllipsesFillTheirBoxLessTheRightAndBottomEdges) {
     // '#' the outline, 'o' the fill; the box is [1, 1 + w) x [1, 1 + h).
     const AsciiArt::Palette palette{{'#', kBlack}, {'o', kFill}, {'.', kWhite}};
-    const struct {
-        int w, h;
-        std::string expected;
-    } cases[] = {
+    const std::tuple<int, int, std::string> cases[] = {
         {1, 1, text({"...", ".#.", "..."})},
         {2, 2, text({"....", ".##.", ".##.", "...."})},
         {3, 3, text({".....", "..#..", ".#o#.", "..#..", "....."})},
@@ -80,18 +72,18 @@ TEST(ShapesTest, EllipsesFillTheirBoxLessTheRightAndBottomEdges) {
                      "...##...", "........"})},
         // clang-format on
     };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(testing::Message() << c.w << " x " << c.h);
-        Plane plane(c.w + 2, c.h + 2, kWhite);
-        drawEllipse(plane, 1, 1, 1 + c.w, 1 + c.h, kInk, kFill);
-        EXPECT_EQ(fromPlane(plane, palette), c.expected);
-        Plane swapped(c.w + 2, c.h + 2, kWhite);
-        drawEllipse(swapped, 1 + c.w, 1 + c.h, 1, 1, kInk, kFill);
+    for (const auto& [w, h, expected] : cases) {
+        SCOPED_TRACE(testing::Message() << w << " x " << h);
+        Plane plane(w + 2, h + 2, kWhite);
+        drawEllipse(plane, 1, 1, 1 + w, 1 + h, kInk, kFill);
+        EXPECT_EQ(fromPlane(plane, palette), expected);
+        Plane swapped(w + 2, h + 2, kWhite);
+        drawEllipse(swapped, 1 + w, 1 + h, 1, 1, kInk, kFill);
         EXPECT_EQ(swapped, plane);
-        Plane hollow(c.w + 2, c.h + 2, kFill);
-        drawEllipse(hollow, 1, 1, 1 + c.w, 1 + c.h, kInk);
-        for (int y = 0; y < c.h + 2; ++y)
-            for (int x = 0; x < c.w + 2; ++x)
+        Plane hollow(w + 2, h + 2, kFill);
+        drawEllipse(hollow, 1, 1, 1 + w, 1 + h, kInk);
+        for (int y = 0; y < h + 2; ++y)
+            for (int x = 0; x < w + 2; ++x)
                 ASSERT_EQ(hollow.pixel(x, y), plane.pixel(x, y) == kBlack ? kBlack : kFill);
     }
 }
