@@ -37,7 +37,7 @@ TEST(GradientFill, LinearBandsRunFromTheStartSideTheAngleNames) {
     const std::tuple<int, int, int, int, int> cases[] = {
         {16, 0, 0, 9, 0},      {16, 0, 15, 3, 254},   {16, 0, 8, 0, 135},   {16, 90, 5, 0, 0},
         {16, 90, 5, 15, 254},  {16, 90, 15, 7, 119},  {16, 180, 0, 4, 255}, {16, 180, 15, 4, 1},
-        {16, 270, 4, 0, 255},  {16, 270, 4, 15, 1},  {16, 45, 0, 0, 2},    {16, 45, 15, 15, 82},
+        {16, 270, 4, 0, 255},  {16, 270, 4, 15, 1},   {16, 45, 0, 0, 2},    {16, 45, 15, 15, 82},
         {16, 45, 15, 0, 42},   {16, 45, 0, 15, 42},   {16, 135, 15, 0, 2},  {16, 135, 0, 15, 82},
         {16, 225, 15, 15, 2},  {16, 225, 0, 0, 82},   {16, 315, 0, 15, 2},  {16, 315, 15, 0, 82},
         {32, 45, 31, 31, 167}, {48, 45, 47, 47, 252}, {48, 90, 0, 47, 254},
@@ -73,10 +73,7 @@ TEST(GradientFill, SphericalCirclesReachTheFarthestCornerAndMayStopEarly) {
 class GradientCommandTest : public ToolsFixture {};
 
 TEST_F(GradientCommandTest, OkFillsOnlyUnderMaskedPixelsAndRecordsWhileCancelLeavesAll) {
-    Plane gradient(16, 16);
-    for (int y = 0; y < 16; ++y)
-        for (int x = 0; x < 16; ++x)
-            gradient.setPixel(x, y, rgb(x, y, 7));
+    const Plane gradient = numberedPlane(16, 16);
     using Pixel = std::pair<Colour, Colour>;
     const Pixel green{kGreen, kBlack}, black{kBlack, kBlack}, red{kRed, kBlack};
     // The icon, whether a green pixel floats over (0, 0), Ok, the top row
@@ -87,9 +84,7 @@ TEST_F(GradientCommandTest, OkFillsOnlyUnderMaskedPixelsAndRecordsWhileCancelLea
         {"rgk/kkk", false, true, {red, green, black}, 3},
     };
     for (const auto& [icon, floating, ok, row, undoStates] : cases) {
-        startWithSize(0);
-        draw(icon, 'k');
-        editor->recordEdit();
+        startWith(0, icon, 'k');
         if (floating) {
             clipboard.picture = Plane(1, 1, kGreen);
             editor->editAction(Paste);

@@ -53,18 +53,21 @@ TEST_F(OperationsTest, OnTheWholeIconEachCommandChangesBothPlanesAndRecordsOnce)
         {onImage(ReflectBottomInTop), both<reflectBottomInTop>},
         {onColour(ColorAction::Invert), ColourTransforms::invert},
         {onColour(ColorAction::Greyscale), ColourTransforms::greyscale},
-        {[](Operations& o) { o.fxAction(FxAction::Buttonize); }, Buttonize::apply},
+        // Buttonize commits a selection first and works on the whole icon.
+        {[this](Operations& o) {
+             mark(at(0), at(0), at(1), at(1));
+             o.fxAction(FxAction::Buttonize);
+         },
+         Buttonize::apply},
     };
     for (const auto& [command, onPlanes] : cases) {
-        startWithSize(0);
-        draw("rg/bT/ik", 'g');
-        editor->recordEdit();
+        startWith(0, "rg/bT/ik", 'g');
         EXPECT_EQ(reflectionsOffered(), "1111");
         Plane image = doc().PicImage, mask = doc().PicMask;
         onPlanes(image, mask);
         command(operations());
         EXPECT_EQ(std::pair(doc().PicImage, doc().PicMask), std::pair(image, mask));
-        EXPECT_EQ(undoSize(), 3u);
+        EXPECT_EQ(std::pair(sel().exists(), undoSize()), std::pair(false, 3ul));
         expectViews();
     }
 }
@@ -82,9 +85,7 @@ TEST_F(OperationsTest, ASelectionChangesAloneUnrecordedAndTurnsClockwiseAfloat) 
         {false, onImage(RotateRight), {kRed, kBlack, kBlack, kWhite}, 1, 2, "0011"},
     };
     for (const auto& [floating, command, planes, w, h, offered] : cases) {
-        startWithSize(1);
-        draw("rT", 'g');
-        editor->recordEdit();
+        startWith(1, "rT", 'g');
         if (floating) {
             clipboard.picture = Plane(2, 1, kWhite); // pasted as "rT"
             clipboard.picture.setPixel(0, 0, kRed);
@@ -145,16 +146,22 @@ TEST_F(OperationsTest, AdjustColoursFreezesAChannelOutOfRangeAndOnlyOkWritesTheI
         draw("ki", 'T');
         paint(0, 0, rgb(250, 100, 0));
         editor->recordEdit();
+        // After Reset the inverting pixel shows as the preview's background.
+        Plane reset = doc().PicImage;
+        reset.setPixel(1, 0, kBlack);
         mark(at(3), at(3), at(5), at(5)); // committed first, unrecorded
         Plane image = doc().PicImage;
         const Plane mask = doc().PicMask;
         std::vector<Colour> shown;
         dialogs.colourAdjustments.push_back([&](ColourAdjustment& adjustment) {
             for (const auto& [spinner, value] : steps) {
-                if (value == kReset)
+                if (value == kReset) {
                     adjustment.reset();
-                else
+                    EXPECT_EQ(std::pair(adjustment.shadeImage(), adjustment.shadeMask()),
+                              std::pair(reset, mask));
+                } else {
                     adjustment.spin(spinner, value);
+                }
                 shown.push_back(adjustment.shadeImage().pixel(0, 0));
             }
             return ok;
@@ -168,25 +175,6 @@ TEST_F(OperationsTest, AdjustColoursFreezesAChannelOutOfRangeAndOnlyOkWritesTheI
         EXPECT_EQ(undoSize(), ok ? 3u : 2u);
         expectViews();
     }
-}
-
-TEST_F(OperationsTest, ButtonizeCommitsASelectionFirst) {
-    paint(0, 0, kRed);
-    recordPainting();
-    editor->editAction(SelectAll);
-    operations().fxAction(FxAction::Buttonize);
-    EXPECT_FALSE(sel().exists());
-    EXPECT_EQ(pixelAt(0, 0), std::pair(rgb(255, 120, 120), kBlack));
-}
-
-TEST_F(OperationsTest, ResetShowsEveryPixelThatIsNotOpaqueAsThePreviewBackground) {
-    draw("ri", 'T');
-    ColourAdjustment adjustment(doc().PicImage, doc().PicMask);
-    adjustment.reset();
-    Plane image = doc().PicImage;
-    image.setPixel(1, 0, kBlack); // was inverting red
-    EXPECT_EQ(std::pair(adjustment.shadeImage(), adjustment.shadeMask()),
-              std::pair(image, doc().PicMask));
 }
 
 } // namespace

@@ -5,15 +5,6 @@
 
 namespace {
 
-// A screen whose every pixel has a colour of its own.
-Plane numberedScreen(int width, int height) {
-    Plane screen(width, height);
-    for (int y = 0; y < height; ++y)
-        for (int x = 0; x < width; ++x)
-            screen.setPixel(x, y, rgb(x, y, 7));
-    return screen;
-}
-
 TEST(TextPlanes, OkHardensEveryGreyEdgeAndTakesNothingBlank) {
     Plane mask(5, 1);
     const Colour greys[] = {kWhite, 0xFEFFFF, 0x808080, 0x000001, kBlack};
@@ -29,7 +20,7 @@ TEST(TextPlanes, OkHardensEveryGreyEdgeAndTakesNothingBlank) {
 }
 
 TEST(ScreenCapture, TakesTheSquareInsideTheOutlineAndTheLimitKeepsItOnTheScreen) {
-    const Plane screen = numberedScreen(70, 60);
+    const Plane screen = numberedPlane(70, 60);
     for (const int size : {16, 32, 48}) {
         const QRect area = ScreenCapture::confinement(QSize(70, 60), size);
         // The outline at the far corner ends on the screen's last pixel.
@@ -49,19 +40,19 @@ TEST(ScreenCapture, TakesTheSquareInsideTheOutlineAndTheLimitKeepsItOnTheScreen)
 
 using TextCaptureCommands = ToolsFixture;
 
-TEST_F(TextCaptureCommands, TextFloatsAtTheCornerAndIsRecordedOnlyWhenCommitted) {
+// Both commands commit a marked area first, unrecorded. Text floats at the
+// corner and is recorded only when committed; a capture is recorded even
+// when the dialog is left.
+TEST_F(TextCaptureCommands, TextFloatsUntilCommittedAndCaptureAlwaysRecords) {
     for (const bool ok : {true, false}) {
-        startWithSize(0);
-        draw("rg", 'T');
-        recordPainting();
-        mark(at(0), at(0), at(1), at(1)); // committed first, unrecorded
+        startWith(0, "rg", 'T');
+        mark(at(0), at(0), at(1), at(1));
         editor->doc().modified = false;
         TextPlanes text{Plane(16, 16), Plane(16, 16, kWhite)};
         text.image.setPixel(1, 0, kBlue);
         text.mask.setPixel(1, 0, kBlack);
         dialogs.texts.push_back(ok ? std::optional(text) : std::nullopt);
         editor->operations().fxAction(FxAction::AddText);
-        EXPECT_EQ(dialogs.textSizes.back(), 16);
         EXPECT_EQ(std::tuple(sel().SelFloating, sel().SelMarked, doc().modified, undoSize()),
                   std::tuple(ok, false, ok, 2u));
         expectPicture("rg", 0, 0, 'T');
@@ -69,29 +60,23 @@ TEST_F(TextCaptureCommands, TextFloatsAtTheCornerAndIsRecordedOnlyWhenCommitted)
         editor->commitSelection();
         expectPicture(ok ? "rb" : "rg", 0, 0, 'T');
         EXPECT_EQ(undoSize(), ok ? 3u : 2u);
-    }
-}
 
-TEST_F(TextCaptureCommands, CaptureMakesTheSquareTheOpaqueIconAndRecordsEvenWhenLeft) {
-    for (const bool taken : {true, false}) {
-        startWithSize(0);
-        draw("rT", 'T');
-        recordPainting();
         mark(at(0), at(0), at(1), at(1));
-        const Plane square = ScreenCapture::squareAt(numberedScreen(40, 40), QPoint(4, 5), 18);
-        dialogs.captures.push_back(taken ? std::optional(square) : std::nullopt);
+        const Plane square = ScreenCapture::squareAt(numberedPlane(40, 40), QPoint(4, 5), 18);
+        dialogs.captures.push_back(ok ? std::optional(square) : std::nullopt);
         editor->operations().fxAction(FxAction::Capture);
-        EXPECT_EQ(dialogs.captureSizes.back(), 16);
         EXPECT_FALSE(sel().exists());
-        if (taken) {
+        if (ok) {
             EXPECT_EQ(std::tuple(pixelAt(0, 0), pixelAt(15, 15), doc().PicMask),
                       std::tuple(std::pair(rgb(5, 6, 7), kBlack), std::pair(rgb(20, 21, 7), kBlack),
                                  Plane(16, 16, kBlack)));
         } else {
-            expectPicture("r", 0, 0, 'T');
+            expectPicture("rg", 0, 0, 'T');
         }
-        EXPECT_EQ(undoSize(), 3u);
+        EXPECT_EQ(undoSize(), ok ? 4u : 3u);
         expectViews();
+        EXPECT_EQ(std::pair(dialogs.textSizes.back(), dialogs.captureSizes.back()),
+                  std::pair(16, 16));
     }
 }
 

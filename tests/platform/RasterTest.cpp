@@ -14,23 +14,17 @@ using AsciiArt::toPlane;
 
 constexpr Colour kUntouched = 0x5A5A5A;
 
-const AsciiArt::Palette& letters() {
-    static const AsciiArt::Palette palette = [] {
-        AsciiArt::Palette p{{'.', kUntouched}};
-        for (char c = 'a'; c <= 'o'; ++c)
-            p[c] = static_cast<Colour>(0x100000 + c);
-        return p;
-    }();
-    return palette;
-}
+const AsciiArt::Palette kLetters = [] {
+    AsciiArt::Palette p{{'.', kUntouched}};
+    for (char c = 'a'; c <= 'o'; ++c)
+        p[c] = static_cast<Colour>(0x100000 + c);
+    return p;
+}();
 
 TEST(RasterTest, BlockCopyClipsAtEveryEdgeOfBothPlanes) {
-    const Plane src = toPlane({"abc", "def", "ghi"}, letters());
-    const struct {
-        const char* name;
-        int dx, dy, w, h, sx, sy;
-        std::string expected;
-    } cases[] = {
+    const Plane src = toPlane({"abc", "def", "ghi"}, kLetters);
+    // What, destination, extent, source, the destination after.
+    const std::tuple<const char*, int, int, int, int, int, int, std::string> cases[] = {
         {"inside", 1, 1, 2, 2, 0, 0, text({"....", ".ab.", ".de."})},
         {"off the left and top", -1, -1, 3, 3, 0, 0, text({"ef..", "hi..", "...."})},
         {"off the right and bottom", 2, 1, 3, 3, 0, 0, text({"....", "..ab", "..de"})},
@@ -38,21 +32,16 @@ TEST(RasterTest, BlockCopyClipsAtEveryEdgeOfBothPlanes) {
         {"destination far right", 9, 0, 3, 3, 0, 0, text({"....", "....", "...."})},
         {"source far outside", 0, 0, 3, 3, 7, 7, text({"....", "....", "...."})},
     };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.name);
+    for (const auto& [what, dx, dy, w, h, sx, sy, expected] : cases) {
         Plane dst(4, 3, kUntouched);
-        bitBlt(dst, c.dx, c.dy, c.w, c.h, src, c.sx, c.sy, RasterOp::Copy);
-        EXPECT_EQ(fromPlane(dst, letters()), c.expected);
+        bitBlt(dst, dx, dy, w, h, src, sx, sy, RasterOp::Copy);
+        EXPECT_EQ(fromPlane(dst, kLetters), expected) << what;
     }
 }
 
 TEST(RasterTest, StretchTakesTheFirstPixelOfEachBlockAndMirrorsOnANegativeExtent) {
-    const struct {
-        const char* name;
-        const char* src;
-        int dx, dw, sx, sw;
-        std::string expected;
-    } cases[] = {
+    // What, the source row, destination and width, source and width, the row after.
+    const std::tuple<const char*, const char*, int, int, int, int, std::string> cases[] = {
         {"doubled", "abc", 0, 6, 0, 3, text({"aabbcc"})},
         {"halved", "abcdef", 0, 3, 0, 6, text({"ace..."})},
         {"not a whole factor", "abcde", 0, 3, 0, 5, text({"abd..."})},
@@ -63,12 +52,10 @@ TEST(RasterTest, StretchTakesTheFirstPixelOfEachBlockAndMirrorsOnANegativeExtent
         {"partly off the left edge", "abc", 1, -3, 0, 3, text({"ba...."})},
         {"zero destination width", "abc", 0, 0, 0, 3, text({"......"})},
     };
-    for (const auto& t : cases) {
-        SCOPED_TRACE(t.name);
+    for (const auto& [what, src, dx, dw, sx, sw, expected] : cases) {
         Plane dst(6, 1, kUntouched);
-        stretchBlt(dst, t.dx, 0, t.dw, 1, toPlane({t.src}, letters()), t.sx, 0, t.sw, 1,
-                   RasterOp::Copy);
-        EXPECT_EQ(fromPlane(dst, letters()), t.expected);
+        stretchBlt(dst, dx, 0, dw, 1, toPlane({src}, kLetters), sx, 0, sw, 1, RasterOp::Copy);
+        EXPECT_EQ(fromPlane(dst, kLetters), expected) << what;
     }
 }
 
@@ -76,9 +63,9 @@ TEST(RasterTest, StretchTakesTheFirstPixelOfEachBlockAndMirrorsOnANegativeExtent
 // the flips and reflections, whose results TransformsTest checks, rely on it
 // with a mirrored source, and an overlapping shift does too.
 TEST(RasterTest, APlaneShiftedOntoItselfReadsItsOldPixels) {
-    Plane plane = toPlane({"abcde"}, letters());
+    Plane plane = toPlane({"abcde"}, kLetters);
     stretchBlt(plane, 1, 0, 4, 1, plane, 0, 0, 4, 1, RasterOp::Copy);
-    EXPECT_EQ(fromPlane(plane, letters()), text({"aabcd"}));
+    EXPECT_EQ(fromPlane(plane, kLetters), text({"aabcd"}));
 }
 
 TEST(RasterTest, FillRectIsHalfOpenAndClippedAndOutsidePixelsAreIgnored) {
@@ -90,9 +77,9 @@ TEST(RasterTest, FillRectIsHalfOpenAndClippedAndOutsidePixelsAreIgnored) {
     fillRect(plane, 2, 1, 1, 0, kBlack); // inside out
     fillRect(plane, 1, 0, 1, 2, kBlack); // empty
     EXPECT_EQ(plane, Plane(3, 2, kUntouched));
-    fillRect(plane, 1, -5, 2, 9, letters().at('a'));
-    fillRect(plane, -4, 1, 1, 7, letters().at('b'));
-    EXPECT_EQ(fromPlane(plane, letters()), text({".a.", "ba."}));
+    fillRect(plane, 1, -5, 2, 9, kLetters.at('a'));
+    fillRect(plane, -4, 1, 1, 7, kLetters.at('b'));
+    EXPECT_EQ(fromPlane(plane, kLetters), text({".a.", "ba."}));
     plane.reset(-4, 2, kBlack);
     EXPECT_TRUE(plane.isEmpty());
 }

@@ -23,7 +23,7 @@ TEST_F(DrawingToolsTest, OtherMouseButtonsDoNothing) {
         EXPECT_EQ(editor->colours().value, colours);
         EXPECT_EQ(editor->tools().currentTool, tool);
         EXPECT_TRUE(editor->editActionEnabled(Redo)) << "redo history kept";
-        EXPECT_EQ(editor->undoRedo().UndoStack.size(), 1u);
+        EXPECT_EQ(undoSize(), 1u);
     }
 }
 
@@ -36,7 +36,7 @@ TEST_F(DrawingToolsTest, SecondButtonDuringAGestureIsIgnored) {
     move(1, at(4), at(1)); // still drawing after the right button's release
     release(1, at(4), at(1));
     expectPicture("r.rr", 1, 1, 'T');
-    EXPECT_EQ(editor->undoRedo().UndoStack.size(), 2u);
+    EXPECT_EQ(undoSize(), 2u);
 }
 
 // Sample hands back to the last drawing tool at mouse-up; Erase and Select

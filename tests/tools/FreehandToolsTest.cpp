@@ -7,21 +7,17 @@ class FreehandToolsTest : public ToolsFixture {};
 using T = DrawingTools;
 
 TEST_F(FreehandToolsTest, OnlyPointsInsideTheGridPaintTheirCell) {
-    const struct {
-        int sizeIndex, x, y, paintedX, paintedY; // -1: nothing painted
-    } points[] = {{1, 0, 50, -1, -1},    {1, 384, 50, -1, -1}, {1, 50, 0, -1, -1},
-                  {1, 50, 384, -1, -1},  {1, -7, 50, -1, -1},  {1, 1, 1, 0, 0},
-                  {1, 383, 383, 31, 31}, {0, 95, 143, 3, 5},   {2, 31, 47, 3, 5}};
-    for (const auto& p : points) {
-        SCOPED_TRACE(testing::Message() << p.x << ", " << p.y << " at " << p.sizeIndex);
-        startWithSize(p.sizeIndex);
-        press(1, p.x, p.y);
-        release(1, p.x, p.y);
-        if (p.paintedX < 0)
-            expectPicture(".", 0, 0, 'T');
-        else
-            expectPicture("k", p.paintedX, p.paintedY, 'T');
-        EXPECT_TRUE(p.paintedX < 0 || editor->doc().modified);
+    // Size index, canvas point, the pixel painted (-1: none).
+    const std::tuple<int, int, int, int, int> points[] = {
+        {1, 0, 50, -1, -1},    {1, 384, 50, -1, -1}, {1, 50, 0, -1, -1},
+        {1, 50, 384, -1, -1},  {1, -7, 50, -1, -1},  {1, 1, 1, 0, 0},
+        {1, 383, 383, 31, 31}, {0, 95, 143, 3, 5},   {2, 31, 47, 3, 5}};
+    for (const auto& [size, x, y, px, py] : points) {
+        SCOPED_TRACE(testing::Message() << x << ", " << y << " at " << size);
+        startWithSize(size);
+        drag(1, {{x, y}});
+        expectPicture(px < 0 ? "." : "k", std::max(px, 0), std::max(py, 0), 'T');
+        EXPECT_TRUE(px < 0 || editor->doc().modified);
         expectViews();
     }
 }

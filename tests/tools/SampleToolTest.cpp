@@ -11,9 +11,7 @@ using T = DrawingTools;
 // truncates, so a point up to a cell left of the canvas reads the first pixel.
 TEST_F(SampleToolTest, FollowsThePointerOverThePictureAndLeavesPictureAndHistoryAlone) {
     // Row 9 from the left: transparent, inverting red, opaque black, opaque green.
-    const std::int32_t taken[] = {kTransparentColour, static_cast<std::int32_t>(kRed),
-                                  static_cast<std::int32_t>(kBlack),
-                                  static_cast<std::int32_t>(kGreen)};
+    const std::int32_t taken[] = {kTransparentColour, kRed, kBlack, kGreen};
     for (int button : {1, 2}) {
         SCOPED_TRACE(button);
         startWithSize(1);
@@ -38,10 +36,10 @@ TEST_F(SampleToolTest, FollowsThePointerOverThePictureAndLeavesPictureAndHistory
         move(button, -11, at(9));
         release(button, -11, at(9));
         EXPECT_EQ(value, taken[0]);
-        EXPECT_EQ(editor->colours().value[2 - button], static_cast<std::int32_t>(kBlue));
-        EXPECT_EQ(std::pair(doc().PicImage, doc().PicMask), std::pair(image, mask));
-        EXPECT_TRUE(editor->editActionEnabled(Redo));
-        EXPECT_EQ(undoSize(), 1u);
+        // The other button's colour, the planes and the history stay.
+        EXPECT_EQ(std::tuple(editor->colours().value[2 - button], doc().PicImage, doc().PicMask,
+                             editor->editActionEnabled(Redo), undoSize()),
+                  std::tuple(std::int32_t{kBlue}, image, mask, true, std::size_t{1}));
     }
 }
 

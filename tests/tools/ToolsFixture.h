@@ -4,6 +4,15 @@
 
 #include <string>
 
+// A plane whose every pixel has a colour of its own, (x, y, 7).
+inline Plane numberedPlane(int width, int height) {
+    Plane plane(width, height);
+    for (int y = 0; y < height; ++y)
+        for (int x = 0; x < width; ++x)
+            plane.setPixel(x, y, rgb(x, y, 7));
+    return plane;
+}
+
 // The editor fixture with the vocabulary of the tool and editing tests: icon
 // pixels as canvas points, and both planes as small pictures, '/' between
 // rows, in letters: 'k' black, 'g' green, 'r' red, 'b' blue (all opaque), 'i'
@@ -42,6 +51,13 @@ class ToolsFixture : public EditorFixture {
 
     // Paints the whole icon in `background`, then the picture at (0, 0).
     void draw(const char* picture, char background);
+    // A fresh icon of the size index showing the picture, recorded as the
+    // first edit.
+    void startWith(int sizeIndex, const char* picture, char background) {
+        startWithSize(sizeIndex);
+        draw(picture, background);
+        editor->recordEdit();
+    }
     // The w x h block at (ox, oy) in letters.
     std::string picture(int ox, int oy, int w, int h, char background) const;
     // The block at (ox, oy) shows the picture and every pixel outside it the
