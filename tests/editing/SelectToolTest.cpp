@@ -38,12 +38,7 @@ TEST_F(SelectToolTest, MarkingSnapsOrdersAndClampsTheCornersAndShowsOnlyTheLates
         EXPECT_EQ(std::tuple(rect().Left, rect().Top, rect().Right, rect().Bottom),
                   std::tuple(c.rect.Left, c.rect.Top, c.rect.Right, c.rect.Bottom));
         EXPECT_EQ(sel().SelMarked, c.rect.Left >= 0);
-        EXPECT_EQ(undoSize(), 1u);
         expectViews(false, sel().SelMarked);
-        if (sel().SelMarked) {
-            EXPECT_EQ(doc().PicSelMask.width(), (c.rect.Right - c.rect.Left) / 12);
-            EXPECT_EQ(doc().PicSelImage.height(), (c.rect.Bottom - c.rect.Top) / 12);
-        }
     }
 }
 
@@ -83,29 +78,21 @@ TEST_F(SelectToolTest, MovingAMarkedSelectionLiftsItAndCommitsOnce) {
 
 // SelRect's right and bottom edges are the corners of the cells just past the
 // marked ones, and they count as inside: a press there moves the selection.
+// Pressed on the right edge, the bottom edge, the corner; a cell past them.
 TEST_F(SelectToolTest, AMoveStartsOnTheRightAndBottomEdgesToo) {
-    const struct {
-        const char* name;
-        int x, y;
-        bool moves;
-    } cases[] = {
-        {"right edge", 50, 30, true},
-        {"bottom edge", 30, 50, true},
-        {"bottom-right corner", 59, 59, true},
-        {"a cell past the right", 60, 30, false},
-        {"a cell past the bottom", 30, 60, false},
-    };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.name);
+    for (const auto& [x, y, moves] :
+         {std::tuple(50, 30, true), std::tuple(30, 50, true), std::tuple(59, 59, true),
+          std::tuple(60, 30, false), std::tuple(30, 60, false)}) {
+        SCOPED_TRACE(testing::Message() << x << ", " << y);
         startWithSize(1);
         paint(2, 2, kRed);
         recordPainting();
         mark(24, 24, 48, 48); // icon pixels (2, 2) to (3, 3)
-        press(1, c.x, c.y);
-        EXPECT_EQ(sel().SelFloating, c.moves);
-        EXPECT_EQ(editor->tools().select.marking, !c.moves);
-        EXPECT_EQ(doc().isTransparent(2, 2), c.moves);
-        release(1, c.x, c.y);
+        press(1, x, y);
+        EXPECT_EQ(sel().SelFloating, moves);
+        EXPECT_EQ(editor->tools().select.marking, !moves);
+        EXPECT_EQ(doc().isTransparent(2, 2), moves);
+        release(1, x, y);
     }
 }
 
