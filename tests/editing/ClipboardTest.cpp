@@ -1,6 +1,7 @@
 #include "tools/ToolsFixture.h"
 
 #include "platform/Raster.h"
+#include "support/AsciiArt.h"
 
 namespace {
 
@@ -58,22 +59,17 @@ TEST_F(ClipboardTest, CopyCutPasteAndUndoFollowTheMenu) {
     expectPicture("rk/.b", 0, 0, 'T');
 }
 
-TEST_F(ClipboardTest, PlainPasteMakesOnlyPureWhiteTransparentAndOpaquePasteKeepsIt) {
-    const Colour nearlyWhite = rgb(254, 255, 255);
-    for (const EditAction item : {Paste, PasteOpaque}) {
-        SCOPED_TRACE(static_cast<int>(item));
-        startWithSize(1);
-        clipboard.picture = Plane(3, 1, kWhite);
-        clipboard.picture.setPixel(1, 0, kRed);
-        clipboard.picture.setPixel(2, 0, nearlyWhite);
+// Only pure white turns transparent, and only in a plain paste.
+TEST_F(ClipboardTest, PlainPasteMakesWhiteTransparentAndOpaquePasteKeepsIt) {
+    const AsciiArt::Palette palette{
+        {'.', kWhite}, {'#', kBlack}, {'r', kRed}, {'n', rgb(254, 255, 255)}};
+    clipboard.picture = AsciiArt::toPlane({".rn"}, palette);
+    for (const auto& [item, image, mask] :
+         {std::tuple(Paste, "#rn", ".##"), std::tuple(PasteOpaque, ".rn", "###")}) {
+        SCOPED_TRACE(image);
         editor->editAction(item);
-        Plane image(3, 1, kRed), mask(3, 1, kBlack);
-        image.setPixel(0, 0, item == Paste ? kBlack : kWhite);
-        image.setPixel(2, 0, nearlyWhite);
-        mask.setPixel(0, 0, item == Paste ? kWhite : kBlack);
-        EXPECT_EQ(std::pair(doc().PicSelImage, doc().PicSelMask), std::pair(image, mask));
-        EXPECT_TRUE(doc().modified);
-        expectViews(true, true);
+        EXPECT_EQ(AsciiArt::fromPlane(doc().PicSelImage, palette), AsciiArt::text({image}));
+        EXPECT_EQ(AsciiArt::fromPlane(doc().PicSelMask, palette), AsciiArt::text({mask}));
     }
 }
 
@@ -99,6 +95,7 @@ TEST_F(ClipboardTest, OnlyAPictureLargerThanTheIconAsksAndIsShrunkAsChosen) {
 
         EXPECT_EQ(dialogs.pasteDialogs, c.dialogs);
         EXPECT_EQ(sel().PasteChoice, c.dialogs ? c.option : -1);
+        EXPECT_TRUE(doc().modified);
         ASSERT_TRUE(sel().SelFloating);
         const int w = doc().PicSelMask.width(), h = doc().PicSelMask.height();
         EXPECT_EQ(std::pair(w, h), std::pair(c.fitWidth, c.fitHeight));
