@@ -21,7 +21,8 @@ TEST(ModRecentTest, FileNameOfTakesTheTextAfterTheLastSeparator) {
         EXPECT_EQ(ModRecent::FileNameOf(c[0]), c[1]) << c[0];
 }
 
-TEST(ModRecentTest, NewestComesFirstAndTheSameFileInOtherCaseMovesUp) {
+// The same file in other case moves up; removing takes only the exact path.
+TEST(ModRecentTest, NewestComesFirstAndRemovingClosesUpAndRenumbers) {
     ModRecent recent;
     EXPECT_FALSE(recent.MnuRecent[0].visible);
     for (const char* path : {"/icons/Star.ico", "/icons/b.ico", "/icons/c.ico", "/ICONS/star.ICO"})
@@ -33,22 +34,16 @@ TEST(ModRecentTest, NewestComesFirstAndTheSameFileInOtherCaseMovesUp) {
     recent.AddRecent("/icons/e.ico");
     EXPECT_EQ(recent.paths(),
               (QStringList{"/icons/e.ico", "/icons/d.ico", "/ICONS/star.ICO", "/icons/c.ico"}));
-}
 
-TEST(ModRecentTest, RemovingAnExactEntryClosesUpAndRenumbers) {
-    ModRecent recent;
-    for (const char* path : {"/a.ico", "/b.ico", "/c.ico", "/d.ico"})
-        recent.AddRecent(path);
-    recent.RemoveRecent("/c.ico");
-    recent.RemoveRecent("/D.ico"); // another spelling removes nothing
-    EXPECT_EQ(captions(recent), (QStringList{"&1 d.ico", "&2 b.ico", "&3 a.ico", "-"}));
+    recent.RemoveRecent("/icons/d.ico");
+    recent.RemoveRecent("/icons/E.ico");
+    EXPECT_EQ(captions(recent), (QStringList{"&1 e.ico", "&2 star.ICO", "&3 c.ico", "-"}));
     EXPECT_TRUE(recent.MnuRecent[4].tag.isEmpty());
-
     // A tag cleared beforehand is dropped as well.
     recent.MnuRecent[2].tag.clear();
-    recent.RemoveRecent("/d.ico");
-    EXPECT_EQ(captions(recent), (QStringList{"&1 a.ico", "-", "-", "-"}));
-    recent.RemoveRecent("/a.ico");
+    recent.RemoveRecent("/icons/e.ico");
+    EXPECT_EQ(captions(recent), (QStringList{"&1 c.ico", "-", "-", "-"}));
+    recent.RemoveRecent("/icons/c.ico");
     EXPECT_FALSE(recent.MnuRecent[0].visible);
 }
 
