@@ -17,12 +17,10 @@ TEST_F(SelectionTest, CommitOfAnUnmovedMarkedSelectionRecordsNothing) {
         recordPainting();
         editor->doc().modified = false;
         mark(36, 36, 72, 48); // icon pixels (3, 3) to (5, 3)
-        ASSERT_TRUE(sel().SelMarked);
         if (deselect)
             editor->editAction(Deselect);
         else
             mark(120, 120, 180, 168);
-        EXPECT_EQ(sel().SelMarked, !deselect);
         EXPECT_EQ(std::pair(rect().Left, rect().Bottom),
                   deselect ? std::pair(-1, -1) : std::pair(120, 168));
         EXPECT_EQ(undoSize(), 2u);
@@ -42,7 +40,6 @@ TEST_F(SelectionTest, DeleteOfAMarkedThreeByThreeAreaClearsExactlyThatArea) {
         SCOPED_TRACE(sizeIndex);
         draw("", 'g');
         editor->recordEdit();
-        const Plane image = doc().PicImage, mask = doc().PicMask;
         // Pressed and released inside cells: both corners snap to the grid.
         mark(at(2), at(2), at(5, zoom() - 1), at(5));
         editor->editAction(Delete);
@@ -50,8 +47,6 @@ TEST_F(SelectionTest, DeleteOfAMarkedThreeByThreeAreaClearsExactlyThatArea) {
         EXPECT_FALSE(sel().exists());
         EXPECT_EQ(undoSize(), 3u);
         expectViews(false, false);
-        editor->editAction(Undo);
-        EXPECT_EQ(std::pair(doc().PicImage, doc().PicMask), std::pair(image, mask));
     }
 }
 
