@@ -43,7 +43,7 @@ Colour withGrid(int x, int y, int zoom, Colour b) {
     return b;
 }
 
-TEST(CanvasTest, EveryKindOfPixelLooksAsItShouldOnCanvasAndPreview) {
+TEST(CanvasTest, EveryKindOfPixelAndAPaintedCellLookAsTheyShould) {
     for (int sizeIndex = 0; sizeIndex < 3; ++sizeIndex) {
         IconDocument doc;
         doc.resize(sizeIndex);
@@ -80,6 +80,18 @@ TEST(CanvasTest, EveryKindOfPixelLooksAsItShouldOnCanvasAndPreview) {
         for (int y = 0; y < n; ++y)
             for (int x = 0; x < n; ++x)
                 ASSERT_EQ(canvas.PicIcon.pixel(x, y), look(x, y, kButtonFace)) << x << "," << y;
+        // Painting a cell looks like a full refresh, and so does the back
+        // buffer where the grid does not cover it, when shown again.
+        for (const std::optional<Colour> colour : {std::optional{kRed}, std::optional<Colour>{}}) {
+            canvas.paintCell(zoom, 3 * zoom, 2 * zoom, colour);
+            doc.PicImage.setPixel(3, 2, colour.value_or(kBlack));
+            doc.PicMask.setPixel(3, 2, colour ? kBlack : kWhite);
+            Canvas redrawn;
+            redrawn.compose(doc);
+            EXPECT_EQ(canvas.PicMain, redrawn.PicMain);
+            canvas.present(zoom);
+            EXPECT_EQ(canvas.PicMain, redrawn.PicMain);
+        }
     }
 }
 
@@ -140,28 +152,6 @@ TEST(CanvasTest, AFloatingSelectionAndItsMarqueeAreDrawnOverTheViews) {
     }
     marked.drawSelectionRect(left, top, right, bottom);
     EXPECT_EQ(marked.PicMain, stamped.PicMain);
-}
-
-TEST(CanvasTest, PaintingACellLooksLikeAFullRefresh) {
-    for (int sizeIndex = 0; sizeIndex < 3; ++sizeIndex) {
-        IconDocument doc;
-        doc.resize(sizeIndex);
-        const int z = doc.zoom;
-        SCOPED_TRACE(z);
-        Canvas painted, redrawn;
-        painted.refreshFromPlanes(doc);
-        for (const std::optional<Colour> colour : {std::optional{kRed}, std::optional<Colour>{}}) {
-            painted.paintCell(z, 3 * z, 2 * z, colour);
-            doc.PicImage.setPixel(3, 2, colour.value_or(kBlack));
-            doc.PicMask.setPixel(3, 2, colour ? kBlack : kWhite);
-            redrawn.refreshFromPlanes(doc);
-            EXPECT_EQ(painted.PicMain, redrawn.PicMain);
-            // The back buffer agrees too, but under the grid, which always
-            // covers it: shown again, it looks the same.
-            painted.present(z);
-            EXPECT_EQ(painted.PicMain, redrawn.PicMain);
-        }
-    }
 }
 
 } // namespace
