@@ -72,4 +72,100 @@ TEST_F(SelectionTest, SelectAllOrAnotherToolCommitsAFloatingSelectionAndDeleteDr
     }
 }
 
+// The right button marks as the left one does. A rectangle without area is
+// no selection.
+TEST_F(SelectionTest, MarkingSnapsOrdersAndClampsTheCornersAndShowsOnlyTheLatestBox) {
+    const Selection::Rect none;
+    const struct {
+        const char* name;
+        int button, x1, y1, x2, y2;
+        Selection::Rect rect;
+        const char* size;
+    } cases[] = {
+        {"forwards", 1, 25, 37, 61, 50, {24, 36, 60, 48}, "03 x 01"},
+        {"backwards, right button", 2, 80, 80, 20, 30, {12, 24, 72, 72}, "05 x 04"},
+        {"past the right and bottom", 1, 300, 310, 500, 600, {300, 300, 384, 384}, "07 x 07"},
+        {"past the left and top", 1, 100, 100, -50, -7, {0, 0, 96, 96}, "08 x 08"},
+        {"within one cell", 1, 25, 25, 34, 34, none, "00 x 00"},
+        {"no height", 1, 30, 30, 80, 35, none, "04 x 00"},
+        {"no width", 1, 30, 30, 35, 80, none, "00 x 04"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.name);
+        startWithSize(1);
+        editor->tools().chooseTool(DrawingTools::Select);
+        press(c.button, c.x1, c.y1);
+        move(c.button, 200, 150);
+        move(c.button, c.x2, c.y2);
+        EXPECT_TRUE(editor->tools().select.marking);
+        EXPECT_EQ(editor->readoutToXY(), c.size);
+        expectViews(false, true);
+        release(c.button, c.x2, c.y2);
+        EXPECT_FALSE(editor->tools().select.marking);
+        EXPECT_EQ(editor->readoutToXY(), "");
+        EXPECT_EQ(std::tuple(rect().Left, rect().Top, rect().Right, rect().Bottom),
+                  std::tuple(c.rect.Left, c.rect.Top, c.rect.Right, c.rect.Bottom));
+        EXPECT_EQ(sel().SelMarked, c.rect.Left >= 0);
+        expectViews(false, sel().SelMarked);
+    }
+}
+
+TEST_F(SelectionTest, MovingAMarkedSelectionLiftsItAndCommitsOnce) {
+    paint(2, 2, kRed);
+    paint(3, 3, kBlue);
+    paint(6, 4, kGreen); // will lie under the moved selection's transparent corner
+    recordPainting();
+    const Plane image = doc().PicImage, mask = doc().PicMask;
+    mark(24, 24, 48, 48); // icon pixels (2, 2) to (3, 3)
+
+    press(1, 30, 30); // inside: the move starts and the source is cleared
+    EXPECT_TRUE(sel().SelFloating);
+    EXPECT_FALSE(sel().SelMarked);
+    EXPECT_TRUE(doc().isTransparent(2, 2));
+    move(1, -30, 90); // the pointer may take the selection off the canvas
+    EXPECT_EQ(std::pair(rect().Left, rect().Right), std::pair(-24, 0));
+    move(1, 90, 90); // cells (7, 7) to (8, 8)
+    move(1, 66, 54); // back to cells (5, 4) to (6, 5)
+    EXPECT_EQ(std::tuple(rect().Left, rect().Top, rect().Right, rect().Bottom),
+              std::tuple(60, 48, 84, 72));
+    // Shown at the new place with no trail; the document does not have it yet.
+    expectViews(true, false);
+    EXPECT_TRUE(doc().isTransparent(5, 4));
+
+    release(1, 66, 54);
+    EXPECT_TRUE(doc().modified);
+    expectViews(true, true);
+    EXPECT_EQ(undoSize(), 2u);
+    // Floating now, it moves again without clearing what lies under it; the
+    // right button moves it as well.
+    drag(2, {{70, 60}, {58, 48}});
+    expectViews(true, true);
+
+    editor->editAction(Deselect);
+    EXPECT_EQ(undoSize(), 3u);
+    expectPicture("r../.bg", 4, 3, 'T');
+    editor->editAction(Undo);
+    EXPECT_EQ(std::pair(doc().PicImage, doc().PicMask), std::pair(image, mask));
+}
+
+// SelRect's right and bottom edges are the corners of the cells just past the
+// marked ones, and they count as inside: a press there moves the selection.
+// Pressed on the right edge, the bottom edge, the corner; a cell past them.
+TEST_F(SelectionTest, AMoveStartsOnTheRightAndBottomEdgesToo) {
+    for (const auto& [x, y, moves] :
+         {std::tuple(50, 30, true), std::tuple(30, 50, true), std::tuple(59, 59, true),
+          std::tuple(60, 30, false), std::tuple(30, 60, false)}) {
+        SCOPED_TRACE(testing::Message() << x << ", " << y);
+        startWithSize(1);
+        paint(2, 2, kRed);
+        recordPainting();
+        mark(24, 24, 48, 48); // icon pixels (2, 2) to (3, 3)
+        press(1, x, y);
+        EXPECT_EQ(sel().SelFloating, moves);
+        EXPECT_EQ(editor->tools().select.marking, !moves);
+        EXPECT_EQ(doc().isTransparent(2, 2), moves);
+        release(1, x, y);
+    }
+}
+
 } // namespace
