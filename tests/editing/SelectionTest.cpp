@@ -6,10 +6,11 @@ class SelectionTest : public ToolsFixture {};
 
 // The commit stamps the area onto itself, which turns an inverting pixel's
 // colour black, and records nothing; Redo with nothing to redo still puts the
-// recorded planes back.
+// recorded planes back. A new mark starting a cell past the right or bottom
+// edge commits the old one as Deselect does.
 TEST_F(SelectionTest, CommitOfAnUnmovedMarkedSelectionRecordsNothing) {
-    for (const bool deselect : {true, false}) {
-        SCOPED_TRACE(deselect ? "Deselect" : "marking elsewhere");
+    for (const auto& [x, y] : {std::pair(-1, -1), std::pair(84, 36), std::pair(36, 60)}) {
+        SCOPED_TRACE(testing::Message() << x << ", " << y);
         startWithSize(1);
         paint(3, 3, kRed);
         paint(4, 3, kBlue, kWhite);
@@ -17,16 +18,15 @@ TEST_F(SelectionTest, CommitOfAnUnmovedMarkedSelectionRecordsNothing) {
         recordPainting();
         editor->doc().modified = false;
         mark(36, 36, 72, 48); // icon pixels (3, 3) to (5, 3)
-        if (deselect)
+        if (x < 0)
             editor->editAction(Deselect);
         else
-            mark(120, 120, 180, 168);
-        EXPECT_EQ(std::pair(rect().Left, rect().Bottom),
-                  deselect ? std::pair(-1, -1) : std::pair(120, 168));
+            mark(x, y, 180, 168);
+        EXPECT_EQ(std::pair(rect().Left, rect().Top), std::pair(x, y));
         EXPECT_EQ(undoSize(), 2u);
         EXPECT_FALSE(doc().modified);
         expectPicture("r../.../i..", 3, 3, 'T');
-        expectViews(false, !deselect);
+        expectViews(false, x >= 0);
         editor->editAction(Redo);
         EXPECT_EQ(pixelAt(4, 3), std::pair(kBlue, kWhite));
         EXPECT_EQ(undoSize(), 2u);
@@ -118,21 +118,24 @@ TEST_F(SelectionTest, MovingAMarkedSelectionLiftsItAndCommitsOnce) {
     const Plane image = doc().PicImage, mask = doc().PicMask;
     mark(24, 24, 48, 48); // icon pixels (2, 2) to (3, 3)
 
-    press(1, 30, 30); // inside: the move starts and the source is cleared
+    // SelRect's right and bottom edges are the corners of the cells just past
+    // the marked ones, and count as inside: a press on its corner starts the
+    // move, which clears the source.
+    press(1, 59, 59);
     EXPECT_TRUE(sel().SelFloating);
     EXPECT_FALSE(sel().SelMarked);
     EXPECT_TRUE(doc().isTransparent(2, 2));
-    move(1, -30, 90); // the pointer may take the selection off the canvas
+    move(1, -6, 100); // the pointer may take the selection off the canvas
     EXPECT_EQ(std::pair(rect().Left, rect().Right), std::pair(-24, 0));
-    move(1, 90, 90); // cells (7, 7) to (8, 8)
-    move(1, 66, 54); // back to cells (5, 4) to (6, 5)
+    move(1, 114, 114); // cells (7, 7) to (8, 8)
+    move(1, 90, 78);   // back to cells (5, 4) to (6, 5)
     EXPECT_EQ(std::tuple(rect().Left, rect().Top, rect().Right, rect().Bottom),
               std::tuple(60, 48, 84, 72));
     // Shown at the new place with no trail; the document does not have it yet.
     expectViews(true, false);
     EXPECT_TRUE(doc().isTransparent(5, 4));
 
-    release(1, 66, 54);
+    release(1, 90, 78);
     EXPECT_TRUE(doc().modified);
     expectViews(true, true);
     EXPECT_EQ(undoSize(), 2u);
@@ -146,26 +149,6 @@ TEST_F(SelectionTest, MovingAMarkedSelectionLiftsItAndCommitsOnce) {
     expectPicture("r../.bg", 4, 3, 'T');
     editor->editAction(Undo);
     EXPECT_EQ(std::pair(doc().PicImage, doc().PicMask), std::pair(image, mask));
-}
-
-// SelRect's right and bottom edges are the corners of the cells just past the
-// marked ones, and they count as inside: a press there moves the selection.
-// Pressed on the right edge, the bottom edge, the corner; a cell past them.
-TEST_F(SelectionTest, AMoveStartsOnTheRightAndBottomEdgesToo) {
-    for (const auto& [x, y, moves] :
-         {std::tuple(50, 30, true), std::tuple(30, 50, true), std::tuple(59, 59, true),
-          std::tuple(60, 30, false), std::tuple(30, 60, false)}) {
-        SCOPED_TRACE(testing::Message() << x << ", " << y);
-        startWithSize(1);
-        paint(2, 2, kRed);
-        recordPainting();
-        mark(24, 24, 48, 48); // icon pixels (2, 2) to (3, 3)
-        press(1, x, y);
-        EXPECT_EQ(sel().SelFloating, moves);
-        EXPECT_EQ(editor->tools().select.marking, !moves);
-        EXPECT_EQ(doc().isTransparent(2, 2), moves);
-        release(1, x, y);
-    }
 }
 
 } // namespace
