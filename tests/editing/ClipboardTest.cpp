@@ -17,46 +17,62 @@ class ClipboardTest : public ToolsFixture {
     }
 };
 
-TEST_F(ClipboardTest, CopyCutPasteAndUndoFollowTheMenu) {
-    EXPECT_EQ(enabling(), "------+");
-    paint(4, 4, kRed);
-    paint(5, 4, kWhite, kWhite); // inverting
-    paint(5, 5, kBlue);          // (4, 5) stays transparent
-    recordPainting();
-    for (EditAction item : {Cut, Copy, Delete}) // greyed items do nothing when called
-        editor->editAction(item);
-    EXPECT_EQ(clipboard.writes, 0);
-    EXPECT_EQ(undoSize(), 2u);
+TEST_F(ClipboardTest, CopyCutPasteDeleteAndUndoFollowTheMenuAtEverySize) {
+    for (int sizeIndex : {0, 1, 2}) {
+        SCOPED_TRACE(sizeIndex);
+        startWithSize(sizeIndex);
+        clipboard = MemoryClipboard();
+        EXPECT_EQ(enabling(), "------+");
+        draw("", 'g');
+        paint(1, 1, kRed);
+        paint(2, 1, kWhite, kWhite); // inverting
+        paint(1, 2, kBlue);
+        paint(2, 2, kBlack, kWhite); // transparent
+        recordPainting();
+        for (EditAction item : {Cut, Copy, Delete}) // greyed items do nothing when called
+            editor->editAction(item);
+        EXPECT_EQ(clipboard.writes, 0);
+        EXPECT_EQ(undoSize(), 2u);
 
-    mark(48, 48, 72, 72);
-    EXPECT_EQ(enabling(), "++--+++");
-    editor->editAction(Copy);
-    EXPECT_EQ(enabling(), "+++++++");
-    // Transparent pixels go to the clipboard white, an inverting one as white
-    // XOR its colour; the selection stays and nothing is recorded.
-    Plane copied(2, 2, kWhite);
-    copied.setPixel(0, 0, kRed), copied.setPixel(1, 0, kBlack), copied.setPixel(1, 1, kBlue);
-    EXPECT_EQ(clipboard.picture, copied);
-    EXPECT_EQ(undoSize(), 2u);
-    editor->editAction(Cut);
-    EXPECT_EQ(enabling(), "--++--+");
-    EXPECT_EQ(std::pair(clipboard.picture, clipboard.writes), std::pair(copied, 2));
-    EXPECT_EQ(undoSize(), 3u);
-    expectPicture(".", 0, 0, 'T');
+        // Pressed and released inside cells: both corners snap to the grid.
+        mark(at(1), at(1), at(3, zoom() - 1), at(3));
+        EXPECT_EQ(enabling(), "++--+++");
+        editor->editAction(Copy);
+        EXPECT_EQ(enabling(), "+++++++");
+        // Transparent pixels go to the clipboard white, an inverting one as
+        // white XOR its colour; the selection stays and nothing is recorded.
+        Plane copied(2, 2, kWhite);
+        copied.setPixel(0, 0, kRed), copied.setPixel(1, 0, kBlack), copied.setPixel(0, 1, kBlue);
+        EXPECT_EQ(clipboard.picture, copied);
+        EXPECT_EQ(undoSize(), 2u);
+        editor->editAction(Cut);
+        EXPECT_EQ(enabling(), "--++--+");
+        EXPECT_EQ(std::pair(clipboard.picture, clipboard.writes), std::pair(copied, 2));
+        EXPECT_EQ(undoSize(), 3u);
+        expectPicture("TT/TT", 1, 1, 'g');
 
-    editor->editAction(Paste);
-    EXPECT_EQ(enabling(), "+++++++");
-    expectPicture(".", 0, 0, 'T'); // floating, not yet in the document
-    EXPECT_EQ(undoSize(), 3u);
-    expectViews(true, true);
-    // Undo returns to the picture before the paste; Redo brings it in.
-    editor->editAction(Undo);
-    EXPECT_EQ(enabling(), "--++--+");
-    expectPicture(".", 0, 0, 'T');
-    expectViews(false, false);
-    editor->editAction(Redo);
-    EXPECT_EQ(undoSize(), 4u);
-    expectPicture("rk/.b", 0, 0, 'T');
+        editor->editAction(Paste);
+        EXPECT_EQ(enabling(), "+++++++");
+        expectPicture("TT/TT", 1, 1, 'g'); // floating, not yet in the document
+        EXPECT_EQ(undoSize(), 3u);
+        expectViews(true, true);
+        // Undo returns to the picture before the paste; Redo brings it in.
+        editor->editAction(Undo);
+        EXPECT_EQ(enabling(), "--++--+");
+        expectPicture("TT/TT", 1, 1, 'g');
+        expectViews(false, false);
+        editor->editAction(Redo);
+        EXPECT_EQ(undoSize(), 4u);
+        expectPicture("rk./bTT/.TT", 0, 0, 'g');
+
+        // Delete clears exactly the marked area, and copies nothing.
+        mark(at(0), at(0), at(1, zoom() - 1), at(1));
+        editor->editAction(Delete);
+        EXPECT_EQ(enabling(), "--++--+");
+        EXPECT_EQ(std::pair(clipboard.writes, undoSize()), std::pair(2, std::size_t{5}));
+        expectPicture("Tk./bTT/.TT", 0, 0, 'g');
+        expectViews(false, false);
+    }
 }
 
 // Only pure white turns transparent, and only in a plain paste.

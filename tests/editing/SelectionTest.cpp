@@ -34,22 +34,6 @@ TEST_F(SelectionTest, CommitOfAnUnmovedMarkedSelectionRecordsNothing) {
     }
 }
 
-TEST_F(SelectionTest, DeleteOfAMarkedThreeByThreeAreaClearsExactlyThatArea) {
-    for (int sizeIndex : {0, 1, 2}) {
-        startWithSize(sizeIndex);
-        SCOPED_TRACE(sizeIndex);
-        draw("", 'g');
-        editor->recordEdit();
-        // Pressed and released inside cells: both corners snap to the grid.
-        mark(at(2), at(2), at(5, zoom() - 1), at(5));
-        editor->editAction(Delete);
-        expectPicture("TTT/TTT/TTT", 2, 2, 'g');
-        EXPECT_FALSE(sel().exists());
-        EXPECT_EQ(undoSize(), 3u);
-        expectViews(false, false);
-    }
-}
-
 TEST_F(SelectionTest, SelectAllOrAnotherToolCommitsAFloatingSelectionAndDeleteDropsIt) {
     for (const char* step : {"Select All", "Line", "Delete"}) {
         SCOPED_TRACE(step);
