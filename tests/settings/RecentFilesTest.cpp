@@ -17,12 +17,11 @@ QStringList captions(const ModRecent& recent) {
 }
 
 TEST(ModRecentTest, FileNameOfTakesTheTextAfterTheLastSeparator) {
-    const char* cases[][2] = {{"/home/ann/icons/star.ico", "star.ico"},
-                              {"C:\\Icons/sub\\star.ico", "star.ico"},
-                              {"star.ico", "star.ico"},
-                              {"/home/ann/", ""}};
-    for (const auto& c : cases)
-        EXPECT_EQ(ModRecent::FileNameOf(c[0]), c[1]) << c[0];
+    for (const auto& [path, name] :
+         {std::pair("/home/ann/icons/star.ico", "star.ico"),
+          std::pair("C:\\Icons/sub\\star.ico", "star.ico"), std::pair("star.ico", "star.ico"),
+          std::pair("/home/ann/", "")})
+        EXPECT_EQ(ModRecent::FileNameOf(path), name) << path;
 }
 
 // The same file in other case moves up; removing takes only the exact path.
