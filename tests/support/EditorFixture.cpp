@@ -1,22 +1,13 @@
 #include "support/EditorFixture.h"
 
-namespace {
-
-// A fixed, evenly spread sequence in [0, 1): tests see the same marker
-// colours every run.
-std::function<double()> fixedRandom() {
-    auto state = std::make_shared<unsigned>(12345u);
-    return [state] {
-        *state = *state * 1103515245u + 12345u;
-        return static_cast<double>((*state >> 8) & 0xFFFF) / 65536.0;
-    };
-}
-
-} // namespace
-
 void EditorFixture::startWithSize(int sizeIndex) {
     editor = std::make_unique<Editor>(dialogs, clipboard);
-    editor->services().random = fixedRandom();
+    // A fixed, evenly spread sequence in [0, 1): tests see the same marker
+    // colours every run.
+    editor->services().random = [state = 12345u]() mutable {
+        state = state * 1103515245u + 12345u;
+        return static_cast<double>((state >> 8) & 0xFFFF) / 65536.0;
+    };
     editor->registry() = ModRegistry(settingsDir.filePath(QStringLiteral("Sollent.ini")));
     editor->startUp();
     if (sizeIndex != 1)

@@ -89,7 +89,6 @@ class ScriptedDialogs : public EditorDialogs {
     std::vector<int> captureSizes;
 
   private:
-    // The next scripted answer, or the fallback (Cancel) when none is left.
     template <typename T> static T takeOr(std::deque<T>& queue, T fallback = T()) {
         if (queue.empty())
             return fallback;
