@@ -50,20 +50,14 @@ TEST(ModRecentTest, NewestComesFirstAndRemovingClosesUpAndRenumbers) {
     EXPECT_FALSE(recent.MnuRecent[0].visible);
 }
 
-// Every case works on a store file of its own, never on the user's.
-class ModRegistryTest : public ::testing::Test {
-  protected:
-    QTemporaryDir dir;
-    QSettings store{dir.filePath("Sollent.ini"), QSettings::IniFormat};
-    ModRegistry registry{store.fileName()};
-
-    QStringList storedKeys() {
+TEST(ModRegistryTest, ShutdownWritesTheListThatTheNextStartTakesAndDeletesDamagedOrNot) {
+    QTemporaryDir dir; // a store of its own, never the user's
+    QSettings store(dir.filePath("Sollent.ini"), QSettings::IniFormat);
+    ModRegistry registry(store.fileName());
+    const auto storedKeys = [&store] {
         store.sync();
         return store.allKeys();
-    }
-};
-
-TEST_F(ModRegistryTest, ShutdownWritesTheListThatTheNextStartTakesAndDeletesDamagedOrNot) {
+    };
     ModRecent before, after, none;
     for (const char* path : {"/x/a.ico", "/x/b.ico", "/x/c.ico"})
         before.AddRecent(path);
