@@ -23,7 +23,6 @@ TEST_F(NewIconTest, EverySizeStartsFullyTransparentWithItsZoom) {
                   std::pair(c.previewLeft, c.previewTop));
         EXPECT_EQ(doc.PicImage, Plane(c.size, c.size, kBlack));
         EXPECT_EQ(doc.PicMask, Plane(c.size, c.size, kWhite));
-        EXPECT_EQ(doc.PicSelMask.height(), c.size);
         EXPECT_EQ(IconDocument::indexForSize(c.size), c.index);
         EXPECT_EQ(editor->undoRedo().UndoStack.size(), 1u);
         EXPECT_FALSE(doc.modified);

@@ -4,7 +4,6 @@
 
 namespace {
 
-constexpr Colour kOrange = 0x0080FF;
 constexpr Colour kTeal = 0x808000;
 using T = DrawingTools;
 
@@ -29,7 +28,7 @@ TEST_F(UndoRedoTest, EachToolRecordsOneStateThatUndoAndRedoStepThrough) {
          {T::Select, T::Pencil, T::Erase, T::Sample, T::Flood, T::Line, T::Rectangle, T::Ellipse,
           T::SolidRectangle, T::SolidEllipse, T::FilledRectangle, T::FilledEllipse}) {
         SCOPED_TRACE(tool);
-        setColours(kTeal + tool, kOrange);
+        setColours(kTeal + tool, kWhite);
         editor->tools().chooseTool(tool);
         press(1, 30, 30);
         move(1, 100, 80);
