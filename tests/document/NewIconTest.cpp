@@ -21,8 +21,8 @@ TEST_F(NewIconTest, EverySizeStartsFullyTransparentWithItsZoom) {
         EXPECT_EQ(editor->colours().value, (std::array<std::int32_t, 2>{kBlack, kWhite}));
         EXPECT_EQ(std::pair(editor->canvas().previewLeft, editor->canvas().previewTop),
                   std::pair(c.previewLeft, c.previewTop));
-        EXPECT_EQ(doc.PicImage, Plane(c.size, c.size, kBlack));
-        EXPECT_EQ(doc.PicMask, Plane(c.size, c.size, kWhite));
+        EXPECT_EQ(std::tuple(doc.PicImage, doc.PicMask, doc.PicSelMask.height()),
+                  std::tuple(Plane(c.size, c.size, kBlack), Plane(c.size, c.size, kWhite), c.size));
         EXPECT_EQ(IconDocument::indexForSize(c.size), c.index);
         EXPECT_EQ(editor->undoRedo().UndoStack.size(), 1u);
         EXPECT_FALSE(doc.modified);
