@@ -16,16 +16,13 @@ TEST_F(NewIconTest, EverySizeStartsFullyTransparentWithItsZoom) {
         doc.modified = false;
         editor->colours().value = {0x123456, kTransparentColour};
         editor->newIcon(c.index);
-        EXPECT_EQ(doc.size, c.size);
-        EXPECT_EQ(doc.zoom, c.zoom);
-        EXPECT_EQ(doc.maxIndex, c.size - 1);
-        EXPECT_EQ(editor->colours().value[0], static_cast<std::int32_t>(kBlack));
-        EXPECT_EQ(editor->colours().value[1], static_cast<std::int32_t>(kWhite));
-        EXPECT_EQ(editor->canvas().previewLeft, c.previewLeft);
-        EXPECT_EQ(editor->canvas().previewTop, c.previewTop);
-        EXPECT_EQ(doc.PicImage, Plane(c.size, c.size, kBlack));
-        EXPECT_EQ(doc.PicMask, Plane(c.size, c.size, kWhite));
-        EXPECT_EQ(doc.PicSelMask.height(), c.size);
+        EXPECT_EQ(std::tuple(doc.size, doc.zoom, doc.maxIndex),
+                  std::tuple(c.size, c.zoom, c.size - 1));
+        EXPECT_EQ(editor->colours().value, (std::array<std::int32_t, 2>{kBlack, kWhite}));
+        EXPECT_EQ(std::pair(editor->canvas().previewLeft, editor->canvas().previewTop),
+                  std::pair(c.previewLeft, c.previewTop));
+        EXPECT_EQ(std::tuple(doc.PicImage, doc.PicMask, doc.PicSelMask.height()),
+                  std::tuple(Plane(c.size, c.size, kBlack), Plane(c.size, c.size, kWhite), c.size));
         EXPECT_EQ(IconDocument::indexForSize(c.size), c.index);
         EXPECT_EQ(editor->undoRedo().UndoStack.size(), 1u);
         EXPECT_FALSE(doc.modified);

@@ -1,63 +1,102 @@
 #include "tools/ToolsFixture.h"
 
+#include "editing/PasteFit.h"
 #include "platform/Raster.h"
+#include "support/AsciiArt.h"
 
 namespace {
 
-class ClipboardTest : public ToolsFixture {};
+class ClipboardTest : public ToolsFixture {
+  protected:
+    // Cut, Copy, Paste, Paste Opaque, Delete, Deselect and Select All as "+" enabled or "-".
+    std::string enabling() const {
+        std::string items;
+        for (EditAction item : {Cut, Copy, Paste, PasteOpaque, Delete, Deselect, SelectAll})
+            items += editor->editActionEnabled(item) ? '+' : '-';
+        return items;
+    }
+};
 
-TEST_F(ClipboardTest, CutThenPasteRoundTripKeepsColoursAndTransparencyAndUndoes) {
-    paint(4, 4, kRed);
-    paint(5, 4, kGreen);
-    paint(5, 5, kBlue); // (4, 5) stays transparent
-    recordPainting();
-    mark(48, 48, 72, 72);
-    editor->editAction(Cut);
-    EXPECT_FALSE(sel().exists());
-    EXPECT_EQ(undoSize(), 3u);
-    const Plane image = doc().PicImage, mask = doc().PicMask;
-    EXPECT_EQ(image, Plane(32, 32, kBlack));
-    EXPECT_EQ(mask, Plane(32, 32, kWhite));
-    Plane cut(2, 2, kWhite);
-    cut.setPixel(0, 0, kRed), cut.setPixel(1, 0, kGreen), cut.setPixel(1, 1, kBlue);
-    EXPECT_EQ(clipboard.picture, cut);
+TEST_F(ClipboardTest, CopyCutPasteDeleteAndUndoFollowTheMenuAtEverySize) {
+    for (int sizeIndex : {0, 1, 2}) {
+        SCOPED_TRACE(sizeIndex);
+        startWithSize(sizeIndex);
+        clipboard = MemoryClipboard();
+        EXPECT_EQ(enabling(), "------+");
+        draw("", 'g');
+        paint(1, 1, kRed);
+        paint(2, 1, kWhite, kWhite); // inverting
+        paint(1, 2, kBlue);
+        paint(2, 2, kBlack, kWhite); // transparent
+        recordPainting();
+        for (EditAction item : {Cut, Copy, Delete}) // greyed items do nothing when called
+            editor->editAction(item);
+        EXPECT_EQ(std::pair(clipboard.writes, undoSize()), std::pair(0, std::size_t{2}));
 
-    editor->editAction(Paste);
-    EXPECT_TRUE(sel().SelFloating);
-    EXPECT_EQ(std::tuple(rect().Left, rect().Right, rect().Bottom), std::tuple(0, 24, 24));
-    EXPECT_EQ(doc().PicImage, image); // floating, not yet in the document
-    EXPECT_EQ(undoSize(), 3u);
+        // Pressed and released inside cells: both corners snap to the grid.
+        mark(at(1), at(1), at(3, zoom() - 1), at(3));
+        EXPECT_EQ(enabling(), "++--+++");
+        editor->editAction(Copy);
+        EXPECT_EQ(enabling(), "+++++++");
+        // Transparent pixels go to the clipboard white, an inverting one as
+        // white XOR its colour; the selection stays and nothing is recorded.
+        Plane copied(2, 2, kWhite);
+        copied.setPixel(0, 0, kRed), copied.setPixel(1, 0, kBlack), copied.setPixel(0, 1, kBlue);
+        EXPECT_EQ(clipboard.picture, copied);
+        editor->editAction(Cut);
+        EXPECT_EQ(enabling(), "--++--+");
+        EXPECT_EQ(std::pair(clipboard.picture, clipboard.writes), std::pair(copied, 2));
+        expectPicture("TT/TT", 1, 1, 'g');
 
-    // Undo returns to the picture before the paste; Redo brings it in.
-    editor->editAction(Undo);
-    EXPECT_FALSE(sel().exists());
-    EXPECT_EQ(std::pair(doc().PicImage, doc().PicMask), std::pair(image, mask));
-    EXPECT_EQ(undoSize(), 3u);
-    expectViews(false, false);
-    editor->editAction(Redo);
-    EXPECT_EQ(undoSize(), 4u);
-    expectPicture("rg/.b", 0, 0, 'T');
-}
-
-TEST_F(ClipboardTest, PlainPasteMakesWhiteTransparentAndOpaquePasteKeepsIt) {
-    for (const EditAction item : {Paste, PasteOpaque}) {
-        SCOPED_TRACE(static_cast<int>(item));
-        startWithSize(1);
-        clipboard.picture = Plane(4, 4, kWhite);
-        clipboard.picture.setPixel(1, 1, kRed);
-        clipboard.picture.setPixel(2, 2, rgb(254, 255, 255)); // nearly white stays
-        editor->editAction(item);
-        ASSERT_TRUE(sel().SelFloating);
-        const Plane& mask = doc().PicSelMask;
-        const Plane& image = doc().PicSelImage;
-        ASSERT_EQ(mask.width(), 4);
-        EXPECT_EQ(mask.pixel(0, 0), item == Paste ? kWhite : kBlack);
-        EXPECT_EQ(image.pixel(0, 0), item == Paste ? kBlack : kWhite);
-        EXPECT_EQ(std::pair(image.pixel(1, 1), mask.pixel(1, 1)), std::pair(kRed, kBlack));
-        EXPECT_EQ(std::pair(image.pixel(2, 2), mask.pixel(2, 2)),
-                  std::pair(rgb(254, 255, 255), kBlack));
-        EXPECT_TRUE(doc().modified);
+        editor->editAction(Paste);
+        EXPECT_EQ(enabling(), "+++++++");
+        expectPicture("TT/TT", 1, 1, 'g'); // floating, not yet in the document
         expectViews(true, true);
+        // Undo returns to the picture before the paste; Redo brings it in.
+        editor->editAction(Undo);
+        EXPECT_EQ(enabling(), "--++--+");
+        expectPicture("TT/TT", 1, 1, 'g');
+        expectViews(false, false);
+        editor->editAction(Redo);
+        EXPECT_EQ(undoSize(), 4u);
+        expectPicture("rk./bTT/.TT", 0, 0, 'g');
+
+        // Delete clears exactly the marked area, and copies nothing.
+        mark(at(0), at(0), at(1, zoom() - 1), at(1));
+        editor->editAction(Delete);
+        EXPECT_EQ(enabling(), "--++--+");
+        EXPECT_EQ(std::pair(clipboard.writes, undoSize()), std::pair(2, std::size_t{5}));
+        expectPicture("Tk./bTT/.TT", 0, 0, 'g');
+        expectViews(false, false);
+
+        // Cancel in the paste dialog changes nothing; a picture without
+        // pixels, however tall it claims to be, commits the selection and
+        // floats an empty one, which loses nothing.
+        mark(at(1), at(1), at(3), at(3));
+        dialogs.pasteDialogs = 0;
+        clipboard.picture = Plane(49, 49, kBlue); // no scripted answer: Cancel
+        editor->editAction(PasteOpaque);
+        EXPECT_EQ(std::pair(dialogs.pasteDialogs, sel().PasteChoice), std::pair(1, -1));
+        EXPECT_TRUE(sel().SelMarked);
+        expectViews(false, true);
+        clipboard.picture = Plane(0, 40);
+        editor->editAction(Paste);
+        editor->editAction(Paste);
+        EXPECT_EQ(std::pair(dialogs.pasteDialogs, sel().SelFloating), std::pair(1, true));
+        EXPECT_EQ(undoSize(), 6u) << "an empty paste, committed, records a state";
+        expectPicture("Tk./bTT/.TT", 0, 0, 'g');
+        expectViews(true, false);
+
+        // Only pure white turns transparent, and only in a plain paste.
+        const AsciiArt::Palette palette{
+            {'.', kWhite}, {'#', kBlack}, {'r', kRed}, {'n', rgb(254, 255, 255)}};
+        clipboard.picture = AsciiArt::toPlane({".rn"}, palette);
+        for (const auto& [item, image, mask] :
+             {std::tuple(Paste, "#rn", ".##"), std::tuple(PasteOpaque, ".rn", "###")}) {
+            editor->editAction(item);
+            EXPECT_EQ(AsciiArt::fromPlane(doc().PicSelImage, palette), AsciiArt::text({image}));
+            EXPECT_EQ(AsciiArt::fromPlane(doc().PicSelMask, palette), AsciiArt::text({mask}));
+        }
     }
 }
 
@@ -83,7 +122,7 @@ TEST_F(ClipboardTest, OnlyAPictureLargerThanTheIconAsksAndIsShrunkAsChosen) {
 
         EXPECT_EQ(dialogs.pasteDialogs, c.dialogs);
         EXPECT_EQ(sel().PasteChoice, c.dialogs ? c.option : -1);
-        ASSERT_TRUE(sel().SelFloating);
+        EXPECT_TRUE(doc().modified);
         const int w = doc().PicSelMask.width(), h = doc().PicSelMask.height();
         EXPECT_EQ(std::pair(w, h), std::pair(c.fitWidth, c.fitHeight));
         EXPECT_EQ(std::pair(rect().Right, rect().Bottom),
@@ -96,34 +135,28 @@ TEST_F(ClipboardTest, OnlyAPictureLargerThanTheIconAsksAndIsShrunkAsChosen) {
     }
 }
 
-// Cancel in the paste dialog changes nothing; an empty clipboard commits the
-// selection and pastes an empty one, which loses nothing.
-TEST_F(ClipboardTest, PasteThatGivesNoPictureLosesNothing) {
-    // {0, 40}: no pixels, however tall it claims to be.
-    for (const auto& [width, size] : {std::pair(0, 0), std::pair(0, 40), std::pair(40, 40)}) {
-        SCOPED_TRACE(testing::Message() << width << " x " << size);
-        startWithSize(1);
-        paint(3, 3, kRed);
-        recordPainting();
-        mark(24, 24, 60, 60);
-        const Plane image = doc().PicImage, canvas = editor->canvas().PicMain;
-        dialogs.pasteDialogs = 0;
-        clipboard.picture = Plane(width, size, kBlue); // no scripted answer: Cancel
-        editor->editAction(Paste);
-        editor->editAction(PasteOpaque);
-        EXPECT_EQ(dialogs.pasteDialogs, width ? 2 : 0);
-        EXPECT_EQ(sel().PasteChoice, -1);
-        EXPECT_EQ(sel().SelMarked, width != 0);
-        EXPECT_EQ(sel().SelFloating, width == 0);
-        EXPECT_EQ(std::pair(rect().Left, rect().Right),
-                  width ? std::pair(24, 60) : std::pair(0, 0));
-        EXPECT_EQ(doc().PicImage, image);
-        if (width) {
-            EXPECT_EQ(editor->canvas().PicMain, canvas);
-        } else {
-            expectViews(true, false);
-        }
-        EXPECT_EQ(undoSize(), width ? 2u : 3u) << "an empty paste, committed, records a state";
+TEST(PasteFitTest, ShrinksTheLargerSideToTheIconKeepingTheAspect) {
+    const struct {
+        int pictureWidth, pictureHeight, icon, width, height;
+    } cases[] = {
+        {10, 20, 16, 8, 16},  // taller than wide: the height is tested
+        {17, 17, 16, 16, 16}, // one pixel too large
+        {49, 10, 48, 48, 10}, // 9.795 rounds up
+        {1000, 1, 48, 48, 1}, // the short side never drops below one pixel
+        {1, 1000, 16, 1, 16},
+        // The steps end a hair off the exact quotient: 4.5005, 7.4994 and
+        // 11.4958. One division (4.5, 7.5, 11.51) would round to 4 or 5, 8 and
+        // 12; the same steps in double precision to 4, 7 and 12.
+        {32, 9, 16, 16, 5},
+        {32, 15, 16, 16, 7},
+        {57, 41, 16, 16, 11},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(testing::Message() << c.pictureWidth << " x " << c.pictureHeight);
+        const PasteFit fit =
+            PasteFit::keepingAspect(c.pictureWidth, c.pictureHeight, c.icon, c.icon);
+        EXPECT_EQ(fit.width, c.width);
+        EXPECT_EQ(fit.height, c.height);
     }
 }
 

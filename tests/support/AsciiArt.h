@@ -2,6 +2,7 @@
 
 #include "platform/Plane.h"
 
+#include <cstring>
 #include <initializer_list>
 #include <map>
 #include <string>
@@ -19,15 +20,11 @@ inline const Palette& inkOnPaper() {
 }
 
 inline Plane toPlane(std::initializer_list<const char*> rows, const Palette& palette) {
-    const int height = static_cast<int>(rows.size());
-    const int width = height == 0 ? 0 : static_cast<int>(std::string(*rows.begin()).size());
-    Plane plane(width, height);
-    int y = 0;
-    for (const char* row : rows) {
+    const int width = rows.size() == 0 ? 0 : static_cast<int>(std::strlen(*rows.begin()));
+    Plane plane(width, static_cast<int>(rows.size()));
+    for (int y = 0; y < plane.height(); ++y)
         for (int x = 0; x < width; ++x)
-            plane.setPixel(x, y, palette.at(row[x]));
-        ++y;
-    }
+            plane.setPixel(x, y, palette.at(rows.begin()[y][x]));
     return plane;
 }
 

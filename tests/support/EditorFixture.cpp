@@ -1,58 +1,26 @@
 #include "support/EditorFixture.h"
 
-#include <cstdio>
-
-namespace {
-
-// A fixed, evenly spread sequence in [0, 1): tests see the same marker
-// colours every run.
-std::function<double()> fixedRandom() {
-    auto state = std::make_shared<unsigned>(12345u);
-    return [state] {
-        *state = *state * 1103515245u + 12345u;
-        return static_cast<double>((*state >> 8) & 0xFFFF) / 65536.0;
-    };
-}
-
-} // namespace
-
-EditorFixture::EditorFixture() {
-    startWithSize(1);
-}
-
 void EditorFixture::startWithSize(int sizeIndex) {
     editor = std::make_unique<Editor>(dialogs, clipboard);
-    editor->services().random = fixedRandom();
+    // A fixed, evenly spread sequence in [0, 1): tests see the same marker
+    // colours every run.
+    editor->services().random = [state = 12345u]() mutable {
+        state = state * 1103515245u + 12345u;
+        return static_cast<double>((state >> 8) & 0xFFFF) / 65536.0;
+    };
     editor->registry() = ModRegistry(settingsDir.filePath(QStringLiteral("Sollent.ini")));
     editor->startUp();
     if (sizeIndex != 1)
         editor->newIcon(sizeIndex);
 }
 
-void EditorFixture::press(int button, int x, int y) {
-    editor->tools().mouseDown(button, x, y);
-}
-void EditorFixture::move(int button, int x, int y) {
-    editor->tools().mouseMove(button, x, y);
-}
-void EditorFixture::release(int button, int x, int y) {
-    editor->tools().mouseUp(button, x, y);
-}
-
 void EditorFixture::drag(int button, std::initializer_list<std::pair<int, int>> points) {
-    auto it = points.begin();
-    press(button, it->first, it->second);
-    for (++it; it != points.end(); ++it)
+    press(button, points.begin()->first, points.begin()->second);
+    for (auto it = points.begin() + 1; it != points.end(); ++it)
         move(button, it->first, it->second);
     release(button, (points.end() - 1)->first, (points.end() - 1)->second);
 }
 
-std::pair<Colour, Colour> EditorFixture::pixelAt(int x, int y) const {
-    return {editor->doc().PicImage.pixel(x, y), editor->doc().PicMask.pixel(x, y)};
-}
-
 std::string hex(Colour c) {
-    char text[16];
-    std::snprintf(text, sizeof text, "%06X", static_cast<unsigned>(c));
-    return text;
+    return QStringLiteral("%1").arg(c, 6, 16, QLatin1Char('0')).toUpper().toStdString();
 }

@@ -11,23 +11,55 @@
 class ScriptedDialogs : public EditorDialogs {
   public:
     struct Message {
-        QString title;
-        QString text;
+        QString title, text;
         MessageIcon icon;
     };
 
-    void showMessage(const QString& title, const QString& text, MessageIcon icon) override;
-    PromptAnswer askYesNoCancel(const QString& title, const QString& text) override;
-    std::optional<FileChoice> chooseFile(FileDialogMode mode, const QString& startFolder) override;
-    int chooseIconLine(const QStringList& lines) override;
-    int choosePasteOption() override;
-    std::optional<HotSpot> chooseHotSpot(const Plane& canvas, int zoom, int maxIndex) override;
-    bool adjustColours(ColourAdjustment& adjustment) override;
-    std::optional<Plane> chooseGradient(int size) override;
+    void showMessage(const QString& title, const QString& text, MessageIcon icon) override {
+        messages.push_back({title, text, icon});
+    }
+    PromptAnswer askYesNoCancel(const QString&, const QString& text) override {
+        promptTexts.push_back(text);
+        return takeOr(prompts, PromptAnswer::Cancel);
+    }
+    std::optional<FileChoice> chooseFile(FileDialogMode mode, const QString& startFolder) override {
+        fileModes.push_back(mode);
+        fileStartFolders.push_back(startFolder);
+        return takeOr(files);
+    }
+    int chooseIconLine(const QStringList& lines) override {
+        iconListings.push_back(lines);
+        return takeOr(iconLines, -1);
+    }
+    int choosePasteOption() override {
+        ++pasteDialogs;
+        return takeOr(pasteOptions, -1);
+    }
+    std::optional<HotSpot> chooseHotSpot(const Plane&, int, int) override {
+        ++hotSpotDialogs;
+        return takeOr(hotSpots);
+    }
+    bool adjustColours(ColourAdjustment& adjustment) override {
+        const auto user = takeOr(colourAdjustments);
+        return user && user(adjustment);
+    }
+    std::optional<Plane> chooseGradient(int size) override {
+        gradientSizes.push_back(size);
+        return takeOr(gradients);
+    }
     std::optional<ExtractedIconChoice> chooseExtractedIcon(const QString& startFile,
-                                                           QString& recentFolder) override;
-    std::optional<TextPlanes> addText(int size) override;
-    std::optional<Plane> captureScreen(int iconSize) override;
+                                                           QString&) override {
+        extractStartFiles.push_back(startFile);
+        return takeOr(extractedIcons);
+    }
+    std::optional<TextPlanes> addText(int size) override {
+        textSizes.push_back(size);
+        return takeOr(texts);
+    }
+    std::optional<Plane> captureScreen(int iconSize) override {
+        captureSizes.push_back(iconSize);
+        return takeOr(captures);
+    }
 
     // Scripted answers, used first to last.
     std::deque<PromptAnswer> prompts;
@@ -55,4 +87,13 @@ class ScriptedDialogs : public EditorDialogs {
     std::vector<QString> extractStartFiles;
     std::vector<int> textSizes;
     std::vector<int> captureSizes;
+
+  private:
+    template <typename T> static T takeOr(std::deque<T>& queue, T fallback = T()) {
+        if (queue.empty())
+            return fallback;
+        T front = queue.front();
+        queue.pop_front();
+        return front;
+    }
 };
