@@ -7,8 +7,8 @@ namespace {
 
 // The main window on the system clipboard of the offscreen platform, as
 // another program would see it: pictures go in and come out as QImages. What
-// happens to each kind of pixel on the way is the core's (EditMenuTest,
-// ClipboardTest); here that pictures cross whole, their colours in order.
+// happens to each kind of pixel on the way is the core's ClipboardTest; here
+// that pictures cross whole, their colours in order.
 class ClipboardExchangeTest : public ::testing::Test {
   protected:
     void SetUp() override {

@@ -66,7 +66,7 @@ TEST_F(MainMenusTest, MenuBarHoldsEveryItemWithItsNameCaptionAndShortcut) {
     EXPECT_EQ(MainMenus::element(window.get(), "MnuEditAction", 11), nullptr);
 }
 
-// What the core refuses is EditMenuTest's; here the menus ask as they open.
+// What the core refuses is ClipboardTest's; here the menus ask as they open.
 TEST_F(MainMenusTest, MenusAreBroughtUpToDateAsTheyOpen) {
     editor().recent().AddRecent(folder.filePath("star.ico"));
     editor().recent().AddRecent(folder.filePath("moon.ico"));

@@ -121,7 +121,7 @@ TEST_F(MainWindowTest, OpenKeepsTheCanvasDisabledUntilTheTimerTicks) {
     EXPECT_FALSE(window->TmrEnable->isActive());
 }
 
-// How each kind of pixel shows on that face is the core's CompositionTest.
+// How each kind of pixel shows on that face is the core's CanvasTest.
 TEST_F(MainWindowTest, ThePreviewShowsTransparencyInTheStylesButtonFace) {
     QPalette palette = QApplication::palette();
     const QPalette saved = palette;

@@ -100,6 +100,19 @@ TEST_F(ClipboardTest, CopyCutPasteDeleteAndUndoFollowTheMenuAtEverySize) {
     }
 }
 
+// A paste first puts the floating selection down where it was moved to, so
+// the new picture lands only where it floats, at the top-left.
+TEST_F(ClipboardTest, APastePutsTheFloatingSelectionDownFirst) {
+    startWith(0, "", 'g');
+    clipboard.picture = Plane(1, 1, kRed);
+    editor->editAction(Paste);
+    drag(1, {{at(0), at(0)}, {at(2), at(2)}});
+    clipboard.picture = Plane(1, 1, kBlue);
+    editor->editAction(Paste);
+    editor->editAction(Deselect);
+    expectPicture("b../.../..r", 0, 0, 'g');
+}
+
 // Red left half, blue right half, a white top-left pixel unless one wide.
 TEST_F(ClipboardTest, OnlyAPictureLargerThanTheIconAsksAndIsShrunkAsChosen) {
     const struct {
