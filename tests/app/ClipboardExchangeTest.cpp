@@ -32,6 +32,7 @@ TEST(ClipboardExchangeTest, PicturesCrossWholeBothWaysAndTextGreysPaste) {
     picture.fill(qRgb(0, 0, 255));
     picture.setPixel(19, 9, qRgb(200, 10, 20));
     QApplication::clipboard()->setImage(picture);
+    EXPECT_TRUE(window.editor().editActionEnabled(EditAction::Paste));
     keys(Qt::Key_V);
     expected = Plane(20, 10, rgb(0, 0, 255));
     expected.setPixel(19, 9, rgb(200, 10, 20));
