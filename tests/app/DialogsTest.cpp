@@ -2,6 +2,7 @@
 #include "dialogs/FrmMultiIconDialog.h"
 #include "dialogs/FrmPaste.h"
 #include "widgets/PictureBox.h"
+#include "widgets/PlaneImage.h"
 
 #include <QGroupBox>
 #include <QLabel>
@@ -23,11 +24,7 @@ TEST(FrmHotSpot, ShowsTheCanvasAndLeftClicksChooseWhileOnlyOkLowersTheFlag) {
         FrmHotSpot dialog(canvas, 24, 15, nullptr);
         dialog.show();
         EXPECT_EQ(dialog.windowTitle(), "Select Hot Spot");
-        const QImage shown = dialog.PicCursor->grab().toImage();
-        for (QPoint p : {QPoint(0, 0), QPoint(384, 384), QPoint(300, 271)}) {
-            const Colour c = canvas.pixel(p.x(), p.y());
-            EXPECT_EQ(shown.pixel(p), qRgb(redOf(c), greenOf(c), blueOf(c)));
-        }
+        EXPECT_EQ(PlaneImage::toPlane(dialog.PicCursor->grab().toImage()), canvas);
         EXPECT_EQ(dialog.LblHotX->text() + dialog.LblHotY->text(), "0000");
         QTest::mouseClick(dialog.PicCursor, Qt::LeftButton, {}, QPoint(383, 130));
         QTest::mouseClick(dialog.PicCursor, Qt::RightButton, {}, QPoint(30, 30));
@@ -55,8 +52,6 @@ TEST(FrmPaste, OffersTheTwoWaysToShrinkAndOnlyOkChooses) {
                                dialog.CmdOk->text(), dialog.CmdCancel->text()}),
                   QStringList({"Paste Options", "Please Select An Option", "Shrink To Fit",
                                "Shrink To Fit (Keep Aspect)", "&Ok", "&Cancel"}));
-        EXPECT_TRUE(dialog.OptPaste[0]->isChecked());
-        EXPECT_EQ(dialog.PasteChoice(), -1);
         if (option >= 0)
             QTest::mouseClick(dialog.OptPaste[option], Qt::LeftButton);
         QTest::mouseClick(ok ? dialog.CmdOk : dialog.CmdCancel, Qt::LeftButton);

@@ -95,7 +95,6 @@ TEST_F(FrmMirTest, TheEleventhOpenShowsTheLimitAndNoFileDialog) {
     EXPECT_TRUE(rightClickDelete(3));
     openSlot(10);
     EXPECT_EQ(dialogs.fileModes.size(), 11u);
-    EXPECT_FALSE(form.builder().resource().isFilled(3));
     EXPECT_TRUE(form.builder().resource().isFilled(10));
 }
 
