@@ -1,6 +1,6 @@
-// Files this program writes, read by readers it did not write (icotool of
-// icoutils and Pillow, both installed by scripts/install-deps.sh), and what
-// a failed write leaves behind.
+// Files this program writes, read by a reader it did not write (Pillow,
+// installed by scripts/install-deps.sh), and what a failed write leaves
+// behind. Their headers are the writer test's.
 #include "IcoBuilder.h"
 
 #include "fileio/ModFileIO.h"
@@ -43,32 +43,18 @@ std::string asRgba(const Plane& mask, const Plane& image) {
     return text.toStdString();
 }
 
-// Icons, cursors and bitmaps of every depth and size.
-TEST(RoundTripTest, EveryFileOfEveryDepthAndSizeReadsInIcotoolAndInPillow) {
+TEST(RoundTripTest, EveryIconOfEveryDepthAndSizeReadsInPillow) {
     QTemporaryDir dir;
-    const QString ico = dir.filePath("i.ico"), cur = dir.filePath("c.cur"),
-                  bmp = dir.filePath("b.bmp");
-    const std::tuple<int, int, int> depths[] = {{-1, 24, 0}, {256, 8, 256}, {16, 4, 16}, {2, 1, 2}};
-    for (const auto& [count, depth, paletteSize] : depths)
+    const QString ico = dir.filePath("i.ico");
+    const std::pair<int, int> depths[] = {{-1, 24}, {256, 8}, {16, 4}, {2, 1}};
+    for (const auto& [count, depth] : depths)
         for (int size : {48, 32, 16}) {
             SCOPED_TRACE(testing::Message() << size << " at " << depth << " bits");
             const TestIcon p(size, depth);
             // 1- and 4-bit files carry black tables, so their colours read black.
             const Plane colours = depth < 8 ? Plane(size, size, kBlack) : p.image;
-            const QString listed =
-                QString::asprintf("--width=%d --height=%d --bit-depth=%d --palette-size=%d", size,
-                                  size, depth, paletteSize);
             ASSERT_TRUE(ModFileIO::writeIcon(p.mask, p.image, count, ico));
-            ASSERT_TRUE(ModFileIO::writeCursor(p.mask, p.image, count, 5, 7, cur));
-            EXPECT_EQ(run("icotool", {"-l", ico}), "--icon --index=1 " + listed);
-            EXPECT_EQ(run("icotool", {"-l", cur}),
-                      "--cursor --index=1 " + listed + " --hotspot-x=5 --hotspot-y=7");
             EXPECT_EQ(pillowPixels(ico), asRgba(p.mask, colours));
-            // 8-bit bitmaps keep no entry for white, on purpose; see ModPalette.
-            if (depth != 8) {
-                ASSERT_TRUE(ModFileIO::writeBitmap(p.image, count, bmp));
-                EXPECT_EQ(pillowPixels(bmp), asRgba(Plane(size, size), colours));
-            }
         }
 }
 
