@@ -11,23 +11,19 @@
 
 namespace {
 
-QString run(const QString& program, const QStringList& arguments) {
-    QProcess process;
-    process.start(program, arguments);
-    const bool finished = process.waitForStarted(10000) && process.waitForFinished(30000);
-    const QString out = process.readAllStandardOutput() + process.readAllStandardError();
-    EXPECT_TRUE(finished && process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0)
-        << program.toStdString() << " failed; run scripts/install-deps.sh: " << out.toStdString();
-    return out.trimmed();
-}
-
 // What Pillow reads as RGBA: the size, then "r g b a" per pixel, rows top first.
 std::string pillowPixels(const QString& path) {
     const char* script = "import sys; from PIL import Image\n"
                          "im = Image.open(sys.argv[1]).convert('RGBA'); print(*im.size)\n"
                          "for i in range(im.size[0] * im.size[1]): print(*im.getpixel((i % "
                          "im.size[0], i // im.size[0])))";
-    return run("/usr/bin/python3", {"-c", script, path}).toStdString();
+    QProcess python;
+    python.start("/usr/bin/python3", {"-c", script, path});
+    const bool finished = python.waitForStarted(10000) && python.waitForFinished(30000);
+    const QString out = python.readAllStandardOutput() + python.readAllStandardError();
+    EXPECT_TRUE(finished && python.exitStatus() == QProcess::NormalExit && python.exitCode() == 0)
+        << "Pillow failed; run scripts/install-deps.sh: " << out.toStdString();
+    return out.trimmed().toStdString();
 }
 
 // What a reader of the AND/XOR image as RGBA must see: the stored colour,
