@@ -28,7 +28,8 @@ struct Outcome {
     QString out, err;
 };
 
-Outcome run(const QString& program, const QStringList& arguments) {
+// brevik-cli unless another program is named.
+Outcome run(const QStringList& arguments, const QString& program = BREVIK_CLI) {
     QProcess process;
     QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
     // The CLI must need neither a display nor a platform plugin.
@@ -40,10 +41,6 @@ Outcome run(const QString& program, const QStringList& arguments) {
     return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
             QString::fromUtf8(process.readAllStandardOutput()),
             QString::fromUtf8(process.readAllStandardError())};
-}
-
-Outcome cli(const QStringList& arguments) {
-    return run(BREVIK_CLI, arguments);
 }
 
 QByteArray read(const QString& path) {
@@ -97,7 +94,7 @@ TEST_F(CliTest, ExitCodesAndOneLineOnStderr) {
         {{"convert", good, unwritable}, 1, "Unable to save the file " + unwritable},
     };
     for (const auto& [arguments, code, message] : cases) {
-        const Outcome r = cli(arguments);
+        const Outcome r = run(arguments);
         const std::string what = arguments.join(' ').toStdString();
         const QString help = code == 2 ? " (see brevik-cli --help)" : "";
         EXPECT_EQ(r.code, code) << what;
@@ -105,10 +102,10 @@ TEST_F(CliTest, ExitCodesAndOneLineOnStderr) {
         EXPECT_EQ(r.out.startsWith("Usage: brevik-cli"), code == 0) << what;
     }
     // The other files still count: the good file is listed behind the missing one.
-    EXPECT_TRUE(cli({"info", missing, good}).out.startsWith(good + "\t0\t16x16\t24\ticon\t-\n"));
+    EXPECT_TRUE(run({"info", missing, good}).out.startsWith(good + "\t0\t16x16\t24\ticon\t-\n"));
     EXPECT_FALSE(QFile::exists(path("never.ico")));
     EXPECT_FALSE(QFile::exists(path("never.icl")));
-    const Outcome help = run(BREVIK_EDITOR, {"--help"}), bad = run(BREVIK_EDITOR, {"--bogus"});
+    const Outcome help = run({"--help"}, BREVIK_EDITOR), bad = run({"--bogus"}, BREVIK_EDITOR);
     EXPECT_EQ(help.code, 0);
     EXPECT_TRUE(help.out.startsWith("Usage: brevik"));
     EXPECT_EQ(bad.code, 2);
@@ -144,12 +141,12 @@ TEST_F(CliTest, ConvertWritesWhatSaveAsWritesForTheSamePlanes) {
             kind == "ico"   ? IcoFile::iconBytes(mask, colour, count)
             : kind == "cur" ? IcoFile::cursorBytes(mask, colour, count, 5, 7)
                             : BmpFile::bytes(clip, ModPalette::countColours(clip, false));
-        const Outcome r = cli({"convert", "--hotspot", "5,7", in, out});
+        const Outcome r = run({"convert", "--hotspot", "5,7", in, out});
         EXPECT_EQ(r.code, 0) << r.err.toStdString();
         EXPECT_EQ(read(out), expected) << size << kind.toStdString();
         // An icon read back through the editor's reader converts to itself.
         if (kind != "bmp") {
-            ASSERT_EQ(cli({"convert", "--hotspot", "5,7", out, out + ".again." + kind}).code, 0);
+            ASSERT_EQ(run({"convert", "--hotspot", "5,7", out, out + ".again." + kind}).code, 0);
             EXPECT_EQ(read(out + ".again." + kind), expected);
         }
     }
@@ -161,9 +158,8 @@ TEST_F(CliTest, ConvertFitsAnOddPictureKeepingItsAspectAndSaysSo) {
     QImage image(20, 10, QImage::Format_RGB32);
     image.fill(qRgb(200, 10, 10));
     ASSERT_TRUE(image.save(in));
-    const Outcome r = cli({"convert", "--size", "16", in, out});
-    EXPECT_EQ(r.code, 0);
-    EXPECT_EQ(r.out, in + ": 20 x 10 shrunk to 16 x 8 (aspect kept), centred in a 16 x 16 icon\n");
+    EXPECT_EQ(run({"convert", "--size", "16", in, out}).out,
+              in + ": 20 x 10 shrunk to 16 x 8 (aspect kept), centred in a 16 x 16 icon\n");
     const IconLoadResult icon = IcoFile(read(out)).image(0);
     Plane mask(16, 16, kWhite), colour(16, 16, kBlack);
     fillRect(mask, 0, 4, 16, 12, kBlack);
@@ -173,7 +169,7 @@ TEST_F(CliTest, ConvertFitsAnOddPictureKeepingItsAspectAndSaysSo) {
     // With no size the nearest is taken, the larger of two as near.
     image = QImage(40, 40, QImage::Format_RGB32);
     ASSERT_TRUE(image.save(in));
-    EXPECT_EQ(cli({"convert", in, out}).out, in + ": 40 x 40 centred in a 48 x 48 icon\n");
+    EXPECT_EQ(run({"convert", in, out}).out, in + ": 40 x 40 centred in a 48 x 48 icon\n");
 }
 
 TEST_F(CliTest, ExtractGivesBackALibrarysIconFilesAsWrestoolDoes) {
@@ -181,36 +177,36 @@ TEST_F(CliTest, ExtractGivesBackALibrarysIconFilesAsWrestoolDoes) {
                          {patternIcon(16, 1, 16), patternIcon(32, 2), patternIcon(48, 3, 2)}),
                      b = joinIcons({patternIcon(32, 4, 256)});
     const QString dll = make("lib.dll", PeLibraryBuilder{"x86_64", {{"3", a}, {"APP", b}}}.build());
-    ASSERT_EQ(cli({"library", path("lib.icl"), make("a.ico", a), make("b.ico", b)}).code, 0);
+    const QString icl = path("lib.icl");
+    ASSERT_EQ(run({"library", icl, make("a.ico", a), make("b.ico", b)}).code, 0);
     // The DLL names its groups, the icon library this program writes numbers them.
-    const std::tuple<QString, QString, QString> libraries[] = {{dll, "3", "APP"},
-                                                               {path("lib.icl"), "1", "2"}};
+    const std::tuple<QString, QString, QString> libraries[] = {{dll, "3", "APP"}, {icl, "1", "2"}};
     for (const auto& [library, first, second] : libraries) {
         QDir(path("out")).removeRecursively();
-        ASSERT_EQ(cli({"extract", library, "-o", path("out")}).code, 0);
+        ASSERT_EQ(run({"extract", library, "-o", path("out")}).code, 0);
         EXPECT_EQ(filesIn(path("out")),
                   (std::map<QString, QByteArray>{{"lib_" + first + ".ico", a},
                                                  {"lib_" + second + ".ico", b}}));
-        const Outcome listed = run("wrestool", {"-l", library});
-        EXPECT_EQ(listed.out.count("--type=14"), 2) << listed.out.toStdString();
-        EXPECT_EQ(listed.out.count("--type=3"), 4) << listed.out.toStdString();
-        // wrestool writes the icon file, then a tail of its own.
-        for (const auto& [group, icon] : {std::pair{first, a}, std::pair{second, b}}) {
-            ASSERT_EQ(
-                run("wrestool", {"-x", "-t14", "-n", group, library, "-o", path("w.ico")}).code, 0);
-            EXPECT_EQ(read(path("w.ico")).left(icon.size()), icon) << group.toStdString();
-        }
+    }
+    // wrestool reads the icon library back: two groups of four images, each
+    // group as its icon file, then a tail of its own.
+    const Outcome listed = run({"-l", icl}, "wrestool");
+    EXPECT_EQ(listed.out.count("--type=14"), 2) << listed.out.toStdString();
+    EXPECT_EQ(listed.out.count("--type=3"), 4) << listed.out.toStdString();
+    for (const auto& [group, icon] : {std::pair{"1", a}, std::pair{"2", b}}) {
+        ASSERT_EQ(run({"-x", "-t14", "-n", group, icl, "-o", path("w.ico")}, "wrestool").code, 0);
+        EXPECT_EQ(read(path("w.ico")).left(icon.size()), icon) << group;
     }
 
     // An animated cursor: one file per step; --size 32 gives what Extract
     // shows, as Save As writes it.
     const QByteArray cursor = joinIcons({patternIcon(32, 6)}).replace(2, 1, "\x02");
     const QString ani = make("walk.ani", AniWriter{{patternIcon(16, 5), cursor}, 2, {}}.bytes());
-    ASSERT_EQ(cli({"extract", ani, "-o", path("ani")}).code, 0);
+    ASSERT_EQ(run({"extract", ani, "-o", path("ani")}).code, 0);
     EXPECT_EQ(filesIn(path("ani")),
               (std::map<QString, QByteArray>{{"walk_0.ico", patternIcon(16, 5)},
                                              {"walk_1.cur", cursor}}));
-    ASSERT_EQ(cli({"extract", "--size", "32", ani, "-o", path("ani32")}).code, 0);
+    ASSERT_EQ(run({"extract", "--size", "32", ani, "-o", path("ani32")}).code, 0);
     const IconLoadResult shown = shownAs(patternIcon(16, 5));
     EXPECT_EQ(
         read(path("ani32/walk_0.ico")),
@@ -223,7 +219,7 @@ TEST_F(CliTest, BuildAddsEveryFileItCanAndNamesTheOneItRefuses) {
     const QString a = make("a.ico", patternIcon(16, 1)), b = make("b.ico", patternIcon(32, 2, 2)),
                   c = make("c.ico", patternIcon(32, 3, 2)),
                   multi = make("m.ico", joinIcons({patternIcon(16, 4), patternIcon(32, 4)}));
-    const Outcome r = cli({"build", path("out.ico"), a, b, multi, c});
+    const Outcome r = run({"build", path("out.ico"), a, b, multi, c});
     EXPECT_EQ(r.code, 1);
     EXPECT_EQ(r.err, "brevik-cli: " + multi +
                          " is a multi icon resource. Only single icons can be loaded.\n");
@@ -238,11 +234,11 @@ TEST_F(CliTest, InfoListsEveryImageOfEveryIcon) {
     const QString cur = make("p.cur", IcoFile::cursorBytes(Plane(16, 16), Plane(16, 16), 2, 5, 7));
     const QString lib = make(
         "l.dll", PeLibraryBuilder{"x86_64", {{"9", joinIcons({patternIcon(48, 3, 2)})}}}.build());
-    const Outcome r = cli({"info", ico, cur, lib});
+    const Outcome r = run({"info", ico, cur, lib});
     EXPECT_EQ(r.code, 0);
     EXPECT_EQ(r.out, ico + "\t0\t16x16\t4\ticon\t-\n" + ico + "\t1\t32x32\t24\ticon\t-\n" + cur +
                          "\t0\t16x16\t1\tcursor\t5,7\n" + lib + "\t9/0\t48x48\t1\ticon\t-\n");
-    const Outcome json = cli({"info", "--json", cur});
+    const Outcome json = run({"info", "--json", cur});
     EXPECT_EQ(json.out.simplified(),
               QString("[ { \"depth\": 1, \"file\": \"%1\", \"height\": 16, \"hotspot\": [ 5, 7 ], "
                       "\"icon\": null, \"index\": 0, \"kind\": \"cursor\", \"width\": 16 } ]")

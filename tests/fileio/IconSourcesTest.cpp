@@ -124,8 +124,8 @@ TEST(IconSourceOpenerTest, IconFilesHoldOneIconAndAlphaHidesFaintPixels) {
     EXPECT_EQ(IconSourceOpener::openFile("/nonexistent/shell32.dll").fault, ReadFault::Unreadable);
 }
 
-// Four groups as windres lists them: the named one first, then IDs 2, 5, 7.
-// Each group's best image is marked: "a" and "b" hold a 32 x 32 at two
+// Four groups, shown as windres lists them: the named one first, then IDs 2,
+// 5, 7. Each group's best image is marked: "a" and "b" hold a 32 x 32 at two
 // depths (the 24-bit one wins), "c" holds 16 and 48 only (48 wins the tie,
 // shrunk), "d" holds one 16 x 16 (grown).
 struct Library {
@@ -137,7 +137,6 @@ struct Library {
         {"ICONS", joinIcons({patternIcon(48, 8), a32, patternIcon(32, 8, 2)})},
         {"2", joinIcons({patternIcon(16, 7), c48})},
     };
-    // Directory order: named, then 2, 5, 7.
     std::vector<QByteArray> shown{a32, c48, b32, d16};
 };
 

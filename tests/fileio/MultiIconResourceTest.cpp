@@ -1,4 +1,5 @@
 #include "IcoBuilder.h"
+#include "support/MultiIcon.h"
 
 #include "fileio/MultiIconResource.h"
 
@@ -44,18 +45,20 @@ TEST(MultiIconResource, EveryOutcomeOfAdd) {
     }
 }
 
-// The entry comes from byte 6 as it was, its offset patched; the data from
-// byte 22 at the slot's length. The 24-bit source claims a colour count,
-// which is kept.
-TEST(MultiIconResource, TwoSlotsMakeTheFileByteForByte) {
-    QByteArray trueColour = iconFile(9), mono = iconFile(1);
-    trueColour[8] = 7;
+// Ten slots, filled in any order, are laid out from the last slot down, each
+// entry as its source had it but for the offset (a colour count included).
+// An eleventh icon is refused, even one that would only replace.
+TEST(MultiIconResource, TenSlotsMakeTheFileByteForByteAndAnEleventhIsRefused) {
     MultiIconResource resource;
-    EXPECT_EQ(resource.add(mono).slot, 1);
-    EXPECT_EQ(resource.add(trueColour).slot, 9);
-    EXPECT_EQ(resource.toBytes(), IcoBuilder().header(1, 2).bytes + trueColour.mid(6, 12) +
-                                      le(38, 4) + mono.mid(6, 12) + le(910, 4) +
-                                      trueColour.mid(22) + mono.mid(22));
+    std::vector<QByteArray> fromLast;
+    for (int slot = 2; slot < 12; ++slot) {
+        QByteArray file = iconFile(slot);
+        file[8] = 7;
+        EXPECT_EQ(resource.add(file).slot, slot);
+        fromLast.insert(fromLast.begin(), file);
+    }
+    EXPECT_EQ(resource.add(iconFile(2)).outcome, Outcome::LimitReached);
+    EXPECT_EQ(resource.toBytes(), joinIcons(fromLast));
 }
 
 // A second icon of a slot replaces the first. Data is read from byte 22
