@@ -6,7 +6,6 @@
 
 #include <gtest/gtest.h>
 
-#include <map>
 #include <optional>
 
 namespace {
@@ -54,20 +53,14 @@ TEST(CanvasTest, EveryKindOfPixelAFloatingSelectionAndAPaintedCellLookAsTheyShou
         // (mask, colour) at a pixel, the rest transparent. Black and white
         // among the opaque pixels, white and a one-bit colour among the
         // inverting ones: a mixed-up operation shows.
-        const std::map<std::pair<int, int>, std::pair<Colour, Colour>> pixels{
-            {{0, 0}, {kBlack, kRed}},
-            {{1, 0}, {kBlack, kBlack}},
-            {{2, 0}, {kBlack, kWhite}},
-            {{4, 0}, {kWhite, kGreen}},
-            {{5, 0}, {kWhite, kWhite}},
-            {{6, 0}, {kWhite, 0x000001}},
-            {{0, 1}, {kBlack, kGrey}},
-            {{1, 2}, {kBlack, kGrey}},
-            {{n - 1, n - 1}, {kBlack, 0xFF0000}},
-            {{n - 1, 0}, {kWhite, 0x0A0B0C}}};
-        for (const auto& [at, pixel] : pixels) {
-            doc.PicMask.setPixel(at.first, at.second, pixel.first);
-            doc.PicImage.setPixel(at.first, at.second, pixel.second);
+        const std::tuple<int, int, Colour, Colour> pixels[] = {
+            {0, 0, kBlack, kRed},        {1, 0, kBlack, kBlack}, {2, 0, kBlack, kWhite},
+            {4, 0, kWhite, kGreen},      {5, 0, kWhite, kWhite}, {6, 0, kWhite, 0x000001},
+            {0, 1, kBlack, kGrey},       {1, 2, kBlack, kGrey},  {n - 1, n - 1, kBlack, 0xFF0000},
+            {n - 1, 0, kWhite, 0x0A0B0C}};
+        for (const auto& [x, y, mask, colour] : pixels) {
+            doc.PicMask.setPixel(x, y, mask);
+            doc.PicImage.setPixel(x, y, colour);
         }
         // Floating at (1, 1): opaque red over a transparent pixel, inverting
         // green over the grey at (1, 2), transparent, and opaque black.
