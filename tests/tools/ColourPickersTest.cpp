@@ -7,7 +7,7 @@
 
 namespace {
 
-TEST(ColourPickersTest, ChartHasBlackAndWhiteEdgesAndPureHuesAndTheRampIsGrey) {
+TEST(ColourPickersTest, ChartRampAndMiniPaletteHoldTheirColours) {
     const ColourPickers pickers;
     const Plane &chart = pickers.PicPal, &ramp = pickers.PicGreyPal;
     ASSERT_EQ(std::pair(chart.width(), chart.height()), std::pair(51, 335));
@@ -32,10 +32,8 @@ TEST(ColourPickersTest, ChartHasBlackAndWhiteEdgesAndPureHuesAndTheRampIsGrey) {
     };
     for (const auto& [plane, x, y, colour] : points)
         EXPECT_EQ(plane->pixel(x, y), colour) << (plane == &ramp) << " at " << x << ", " << y;
-}
-
-// Four rows of four cells, 24 x 13 pixels each, without a gap.
-TEST(ColourPickersTest, MiniPaletteHoldsTheSixteenStandardColours) {
+    // The mini palette: four rows of four cells, 24 x 13 pixels each, with
+    // no gap between.
     const Colour standard[16] = {
         rgb(0, 0, 0),       rgb(0, 0, 128),   rgb(0, 128, 0),   rgb(0, 128, 128),
         rgb(128, 0, 0),     rgb(128, 0, 128), rgb(128, 128, 0), rgb(192, 192, 192),
@@ -45,7 +43,7 @@ TEST(ColourPickersTest, MiniPaletteHoldsTheSixteenStandardColours) {
     for (int n = 0; n < 16; ++n)
         fillRect(expected, 24 * (n % 4), 13 * (n / 4), 24 * (n % 4 + 1), 13 * (n / 4 + 1),
                  standard[n]);
-    EXPECT_EQ(ColourPickers().PicMiniPal, expected);
+    EXPECT_EQ(pickers.PicMiniPal, expected);
 }
 
 TEST(ColourPickersTest, EachButtonPicksOnlyItsOwnColourAndADragStaysOnThePicker) {
