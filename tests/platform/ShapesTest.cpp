@@ -59,7 +59,8 @@ TEST(ShapesTest, BoxesIncludeBothCornersAndAWidePenGrowsToBothSides) {
 }
 
 TEST(ShapesTest, EllipsesFillTheirBoxLessTheRightAndBottomEdges) {
-    // '#' the outline, 'o' the fill; the box is [1, 1 + w) x [1, 1 + h).
+    // '#' the outline, 'o' the fill; the box is [1, 1 + w) x [1, 1 + h), its
+    // corners given backwards (the Ellipse tool gives them in order).
     const AsciiArt::Palette palette{{'#', kBlack}, {'o', kFill}, {'.', kWhite}};
     const std::tuple<int, int, std::string> cases[] = {
         {1, 1, text({"...", ".#.", "..."})},
@@ -75,11 +76,8 @@ TEST(ShapesTest, EllipsesFillTheirBoxLessTheRightAndBottomEdges) {
     for (const auto& [w, h, expected] : cases) {
         SCOPED_TRACE(testing::Message() << w << " x " << h);
         Plane plane(w + 2, h + 2, kWhite);
-        drawEllipse(plane, 1, 1, 1 + w, 1 + h, kInk, kFill);
+        drawEllipse(plane, 1 + w, 1 + h, 1, 1, kInk, kFill);
         EXPECT_EQ(fromPlane(plane, palette), expected);
-        Plane swapped(w + 2, h + 2, kWhite);
-        drawEllipse(swapped, 1 + w, 1 + h, 1, 1, kInk, kFill);
-        EXPECT_EQ(swapped, plane);
     }
 }
 
