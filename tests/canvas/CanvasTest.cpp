@@ -130,8 +130,8 @@ TEST(CanvasTest, EveryKindOfPixelAFloatingSelectionAndAPaintedCellLookAsTheyShou
     }
 }
 
-// The tools' readouts show the padding of a single digit; these are the
-// numbers they never reach.
+// The tools' readouts show a single digit padded; a pointer left of the
+// canvas gives a negative cell, and a longer number must not be cut.
 TEST(CoordinatesTest, ReadOutDigitsKeepALongerNumberWhole) {
     EXPECT_EQ(Coordinates::twoDigits(123), "123");
     EXPECT_EQ(Coordinates::twoDigits(-5), "-05");
