@@ -1,6 +1,7 @@
 #include "operations/Operations.h"
 #include "operations/ScreenCapture.h"
 #include "operations/TextPlanes.h"
+#include "platform/Raster.h"
 #include "tools/ToolsFixture.h"
 
 namespace {
@@ -29,9 +30,7 @@ TEST(ScreenCapture, TakesTheSquareInsideTheOutlineAndTheLimitKeepsItOnTheScreen)
         for (const QPoint at : {QPoint(0, 0), QPoint(3, 2), area.bottomRight()}) {
             Plane image(size, size, kWhite), mask(size, size, kWhite), expected(size, size);
             ScreenCapture::take(ScreenCapture::squareAt(screen, at, size + 2), image, mask);
-            for (int y = 0; y < size; ++y)
-                for (int x = 0; x < size; ++x)
-                    expected.setPixel(x, y, rgb(at.x() + 1 + x, at.y() + 1 + y, 7));
+            bitBlt(expected, 0, 0, size, size, screen, at.x() + 1, at.y() + 1, RasterOp::Copy);
             EXPECT_EQ(std::pair(image, mask), std::pair(expected, Plane(size, size, kBlack)))
                 << size << " at " << at.x() << ", " << at.y();
         }

@@ -10,27 +10,25 @@
 namespace {
 
 using namespace ImageTransforms;
+using AsciiArt::text;
 
 TEST(TransformsTest, EachImageOperationMapsEveryPixelAndHalvesOddExtentsByTruncation) {
     AsciiArt::Palette letters; // fifteen letters, fifteen colours
     for (char c = 'a'; c <= 'o'; ++c)
         letters[c] = rgb(c, 255 - c, 3 * c);
-    const std::pair<std::function<Plane(Plane)>, const char*> cases[] = {
-        {[](Plane p) { return flipHorizontal(p), p; }, "edcba/jihgf/onmlk"},
-        {[](Plane p) { return flipVertical(p), p; }, "klmno/fghij/abcde"},
-        {rotatedClockwise, "kfa/lgb/mhc/nid/oje"},
-        {rotatedAnticlockwise, "ejo/din/chm/bgl/afk"},
-        {[](Plane p) { return reflectLeftInRight(p), p; }, "abbae/fggfj/kllko"},
-        {[](Plane p) { return reflectRightInLeft(p), p; }, "edcde/jihij/onmno"},
-        {[](Plane p) { return reflectTopInBottom(p), p; }, "abcde/abcde/klmno"},
-        {[](Plane p) { return reflectBottomInTop(p), p; }, "klmno/fghij/klmno"},
+    const std::pair<std::function<Plane(Plane)>, std::string> cases[] = {
+        {[](Plane p) { return flipHorizontal(p), p; }, text({"edcba", "jihgf", "onmlk"})},
+        {[](Plane p) { return flipVertical(p), p; }, text({"klmno", "fghij", "abcde"})},
+        {rotatedClockwise, text({"kfa", "lgb", "mhc", "nid", "oje"})},
+        {rotatedAnticlockwise, text({"ejo", "din", "chm", "bgl", "afk"})},
+        {[](Plane p) { return reflectLeftInRight(p), p; }, text({"abbae", "fggfj", "kllko"})},
+        {[](Plane p) { return reflectRightInLeft(p), p; }, text({"edcde", "jihij", "onmno"})},
+        {[](Plane p) { return reflectTopInBottom(p), p; }, text({"abcde", "abcde", "klmno"})},
+        {[](Plane p) { return reflectBottomInTop(p), p; }, text({"klmno", "fghij", "klmno"})},
     };
     const Plane start = AsciiArt::toPlane({"abcde", "fghij", "klmno"}, letters);
-    for (const auto& [operation, expected] : cases) {
-        std::string rows = std::string("/") + expected;
-        std::replace(rows.begin(), rows.end(), '/', '\n');
-        EXPECT_EQ(AsciiArt::fromPlane(operation(start), letters), rows);
-    }
+    for (const auto& [operation, expected] : cases)
+        EXPECT_EQ(AsciiArt::fromPlane(operation(start), letters), expected);
 }
 
 TEST(TransformsTest, InvertAndGreyChangeOnlyOpaquePixelsAndGreyRoundsHalvesToEven) {

@@ -39,7 +39,7 @@ TEST(RasterTest, BlockCopyClipsAtEveryEdgeOfBothPlanes) {
     }
 }
 
-TEST(RasterTest, StretchTakesTheFirstPixelOfEachBlockAndMirrorsOnANegativeExtent) {
+TEST(RasterTest, StretchTakesTheFirstPixelOfEachBlockMirrorsAndReadsItsSourceFirst) {
     // What, the source row, destination and width, source and width, the row after.
     const std::tuple<const char*, const char*, int, int, int, int, std::string> cases[] = {
         {"doubled", "abc", 0, 6, 0, 3, text({"aabbcc"})},
@@ -57,12 +57,9 @@ TEST(RasterTest, StretchTakesTheFirstPixelOfEachBlockAndMirrorsOnANegativeExtent
         stretchBlt(dst, dx, 0, dw, 1, toPlane({src}, kLetters), sx, 0, sw, 1, RasterOp::Copy);
         EXPECT_EQ(fromPlane(dst, kLetters), expected) << what;
     }
-}
-
-// A transfer of a plane onto itself reads the pixels as they were before it:
-// the flips and reflections, whose results TransformsTest checks, rely on it
-// with a mirrored source, and an overlapping shift does too.
-TEST(RasterTest, APlaneShiftedOntoItselfReadsItsOldPixels) {
+    // A plane moved onto itself reads its pixels as they were before: the
+    // flips and reflections rely on it with a mirrored source, and an
+    // overlapping shift does too.
     Plane plane = toPlane({"abcde"}, kLetters);
     stretchBlt(plane, 1, 0, 4, 1, plane, 0, 0, 4, 1, RasterOp::Copy);
     EXPECT_EQ(fromPlane(plane, kLetters), text({"aabcd"}));

@@ -1,16 +1,13 @@
 #include "tools/ColourPickers.h"
 #include "canvas/Resources.h"
+#include "platform/Raster.h"
 #include "tools/ButtonColours.h"
 
 #include <gtest/gtest.h>
 
 namespace {
 
-Colour grey(int level) {
-    return rgb(level, level, level);
-}
-
-TEST(ColourPickersTest, ChartHasBlackAndWhiteEdgesAndPureHuesAndTheRampIsGrey) {
+TEST(ColourPickersTest, ChartRampAndMiniPaletteHoldTheirColours) {
     const ColourPickers pickers;
     const Plane &chart = pickers.PicPal, &ramp = pickers.PicGreyPal;
     ASSERT_EQ(std::pair(chart.width(), chart.height()), std::pair(51, 335));
@@ -29,26 +26,24 @@ TEST(ColourPickersTest, ChartHasBlackAndWhiteEdgesAndPureHuesAndTheRampIsGrey) {
         // Lightness summed in single precision stays a hair below 0.1 here,
         // so the blue half-step 25.5 is not reached: 25, not 26.
         {&chart, 5, 167, rgb(0, 51, 25)},
-        {&ramp, 0, 0, grey(0)}, {&ramp, 1, 31, grey(3)}, {&ramp, 45, 0, grey(127)},
-        {&ramp, 46, 31, grey(129)}, {&ramp, 90, 31, grey(253)}, {&ramp, 91, 0, grey(255)},
+        {&ramp, 0, 0, 0x000000}, {&ramp, 1, 31, 0x030303}, {&ramp, 45, 0, 0x7F7F7F},
+        {&ramp, 46, 31, 0x818181}, {&ramp, 90, 31, 0xFDFDFD}, {&ramp, 91, 0, 0xFFFFFF},
         // clang-format on
     };
     for (const auto& [plane, x, y, colour] : points)
         EXPECT_EQ(plane->pixel(x, y), colour) << (plane == &ramp) << " at " << x << ", " << y;
-}
-
-TEST(ColourPickersTest, MiniPaletteHoldsTheSixteenStandardColours) {
-    const ColourPickers pickers;
+    // The mini palette: four rows of four cells, 24 x 13 pixels each, with
+    // no gap between.
     const Colour standard[16] = {
         rgb(0, 0, 0),       rgb(0, 0, 128),   rgb(0, 128, 0),   rgb(0, 128, 128),
         rgb(128, 0, 0),     rgb(128, 0, 128), rgb(128, 128, 0), rgb(192, 192, 192),
         rgb(128, 128, 128), rgb(0, 0, 255),   rgb(0, 255, 0),   rgb(0, 255, 255),
         rgb(255, 0, 0),     rgb(255, 0, 255), rgb(255, 255, 0), rgb(255, 255, 255)};
-    for (int n = 0; n < 16; ++n) {
-        const int left = 24 * (n % 4), top = 13 * (n / 4);
-        for (auto [x, y] : {std::pair{left, top}, {left + 23, top + 12}, {left + 11, top + 6}})
-            EXPECT_EQ(pickers.PicMiniPal.pixel(x, y), standard[n]) << n;
-    }
+    Plane expected(96, 52);
+    for (int n = 0; n < 16; ++n)
+        fillRect(expected, 24 * (n % 4), 13 * (n / 4), 24 * (n % 4 + 1), 13 * (n / 4 + 1),
+                 standard[n]);
+    EXPECT_EQ(pickers.PicMiniPal, expected);
 }
 
 TEST(ColourPickersTest, EachButtonPicksOnlyItsOwnColourAndADragStaysOnThePicker) {
@@ -86,13 +81,10 @@ TEST(ColourPickersTest, EachButtonPicksOnlyItsOwnColourAndADragStaysOnThePicker)
 TEST(ColourPickersTest, SwatchShowsTheColourOrTheHatch) {
     EXPECT_EQ(ColourPickers::swatch(static_cast<std::int32_t>(rgb(255, 0, 0))),
               Plane(23, 12, rgb(255, 0, 0)));
-    const Plane clear = ColourPickers::swatch(kTransparentColour, 30, 14);
-    ASSERT_EQ(std::pair(clear.width(), clear.height()), std::pair(30, 14));
-    const Plane& pattern = Resources::transparentPattern();
-    for (int y = 0; y < 14; ++y)
-        for (int x = 0; x < 30; ++x)
-            ASSERT_EQ(clear.pixel(x, y), x < 23 && y < 12 ? pattern.pixel(x, y) : kWhite)
-                << x << ", " << y;
+    // The hatch fills a swatch's usual size; a larger one is white beyond.
+    Plane hatch(30, 14, kWhite);
+    bitBlt(hatch, 0, 0, 23, 12, Resources::transparentPattern(), 0, 0, RasterOp::Copy);
+    EXPECT_EQ(ColourPickers::swatch(kTransparentColour, 30, 14), hatch);
 }
 
 } // namespace

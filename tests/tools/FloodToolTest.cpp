@@ -13,7 +13,6 @@ TEST_F(FloodToolTest, FillsThe4ConnectedRegionSharingMaskAndColour) {
         {"the ring, right button", "gggg/g..g/g..g/gggg", 0, 0, 2, blue, "bbbb/b..b/b..b/bbbb"},
         {"opaque black beside transparent", "..k./..k./kkk.", 0, 0, 1, blue, "bbk./bbk./kkk."},
         {"inverting red beside opaque red", "rri/rir/rrr", 0, 0, 1, blue, "bbi/bib/bbb"},
-        {"only 4-connected", "kggg/gkgg/gggg", 0, 0, 1, blue, "bggg/gkgg/gggg"},
         {"transparent fill", "ggk/gkk/kkg", 0, 0, 1, kTransparentColour, "..k/.kk/kkg"},
         // clang-format on
     };

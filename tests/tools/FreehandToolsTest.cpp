@@ -22,12 +22,6 @@ TEST_F(FreehandToolsTest, OnlyPointsInsideTheGridPaintTheirCell) {
     }
 }
 
-TEST_F(FreehandToolsTest, DragPaintsOnlyThePixelsTheMouseReports) {
-    setColours(kRed, kBlue);
-    drag(2, {{at(1), at(1)}, {at(4), at(1)}, {at(4), at(4)}, {at(4, 5), at(4, 7)}});
-    expectPicture("b..b/..../..../...b", 1, 1, 'T');
-}
-
 // Erase, and Pencil with "Transparent", write the transparent pair and make
 // the cell look like one never painted; Erase whichever button.
 TEST_F(FreehandToolsTest, ErasingRestoresTheEmptyCellLook) {
