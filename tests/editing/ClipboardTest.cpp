@@ -6,16 +6,7 @@
 
 namespace {
 
-class ClipboardTest : public ToolsFixture {
-  protected:
-    // Cut, Copy, Paste, Paste Opaque, Delete, Deselect and Select All as "+" enabled or "-".
-    std::string enabling() const {
-        std::string items;
-        for (EditAction item : {Cut, Copy, Paste, PasteOpaque, Delete, Deselect, SelectAll})
-            items += editor->editActionEnabled(item) ? '+' : '-';
-        return items;
-    }
-};
+class ClipboardTest : public ToolsFixture {};
 
 TEST_F(ClipboardTest, CopyCutPasteDeleteAndUndoFollowTheMenuAtEverySize) {
     for (int sizeIndex : {0, 1, 2}) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "canvas/Canvas.h"
 #include "support/EditorFixture.h"
 
 #include <string>
@@ -58,21 +59,28 @@ class ToolsFixture : public EditorFixture {
         draw(picture, background);
         editor->recordEdit();
     }
-    // The w x h block at (ox, oy) in letters.
-    std::string picture(int ox, int oy, int w, int h, char background) const;
     // The block at (ox, oy) shows the picture and every pixel outside it the
     // background.
     void expectPicture(const char* picture, int ox, int oy, char background) const;
     // Canvas and preview as a fresh canvas draws the document, with the
     // floating selection over it and the marquee around it when asked.
-    void expectViews(bool withFloating = false, bool withMarquee = false) const;
+    void expectViews(bool withFloating = false, bool withMarquee = false) const {
+        expectCanvas(withFloating ? &Canvas::drawFloating : nullptr, withMarquee);
+    }
     // Canvas and preview as the redraw after an operation on a selection
     // leaves them: the selection over the document, no grid over it, and the
     // marquee.
-    void expectRedrawnSelection() const;
+    void expectRedrawnSelection() const { expectCanvas(&Canvas::stampFloating, true); }
+    // The menu items given, each as "+" enabled or "-".
+    std::string enabling(std::initializer_list<EditAction> items = {
+                             Cut, Copy, Paste, PasteOpaque, Delete, Deselect, SelectAll}) const;
 
     std::size_t undoSize() const { return editor->undoRedo().UndoStack.size(); }
     Selection& sel() { return editor->selection(); }
     const Selection::Rect& rect() const { return editor->selection().SelRect; }
     const IconDocument& doc() const { return editor->doc(); }
+
+  private:
+    using FloatingDraw = void (Canvas::*)(const IconDocument&, int, int, int, int);
+    void expectCanvas(FloatingDraw drawSelection, bool withMarquee) const;
 };
