@@ -11,15 +11,9 @@ class ClipboardTest : public ToolsFixture {};
 TEST_F(ClipboardTest, CopyCutPasteDeleteAndUndoFollowTheMenuAtEverySize) {
     for (int sizeIndex : {0, 1, 2}) {
         SCOPED_TRACE(sizeIndex);
-        startWithSize(sizeIndex);
+        startWith(sizeIndex, "/.ri/.bT", 'g');
         clipboard = MemoryClipboard();
         EXPECT_EQ(enabling(), "------+");
-        draw("", 'g');
-        paint(1, 1, kRed);
-        paint(2, 1, kWhite, kWhite); // inverting
-        paint(1, 2, kBlue);
-        paint(2, 2, kBlack, kWhite); // transparent
-        recordPainting();
         for (EditAction item : {Cut, Copy, Delete}) // greyed items do nothing when called
             editor->editAction(item);
         EXPECT_EQ(std::pair(clipboard.writes, undoSize()), std::pair(0, std::size_t{2}));
@@ -32,7 +26,7 @@ TEST_F(ClipboardTest, CopyCutPasteDeleteAndUndoFollowTheMenuAtEverySize) {
         // Transparent pixels go to the clipboard white, an inverting one as
         // white XOR its colour; the selection stays and nothing is recorded.
         Plane copied(2, 2, kWhite);
-        copied.setPixel(0, 0, kRed), copied.setPixel(1, 0, kBlack), copied.setPixel(0, 1, kBlue);
+        copied.setPixel(0, 0, kRed), copied.setPixel(1, 0, kCyan), copied.setPixel(0, 1, kBlue);
         EXPECT_EQ(clipboard.picture, copied);
         editor->editAction(Cut);
         EXPECT_EQ(enabling(), "--++--+");
@@ -50,14 +44,14 @@ TEST_F(ClipboardTest, CopyCutPasteDeleteAndUndoFollowTheMenuAtEverySize) {
         expectViews(false, false);
         editor->editAction(Redo);
         EXPECT_EQ(undoSize(), 4u);
-        expectPicture("rk./bTT/.TT", 0, 0, 'g');
+        expectPicture("rc./bTT/.TT", 0, 0, 'g');
 
         // Delete clears exactly the marked area, and copies nothing.
         mark(at(0), at(0), at(1, zoom() - 1), at(1));
         editor->editAction(Delete);
         EXPECT_EQ(enabling(), "--++--+");
         EXPECT_EQ(std::pair(clipboard.writes, undoSize()), std::pair(2, std::size_t{5}));
-        expectPicture("Tk./bTT/.TT", 0, 0, 'g');
+        expectPicture("Tc./bTT/.TT", 0, 0, 'g');
         expectViews(false, false);
 
         // Cancel in the paste dialog changes nothing; a picture without
@@ -75,7 +69,7 @@ TEST_F(ClipboardTest, CopyCutPasteDeleteAndUndoFollowTheMenuAtEverySize) {
         editor->editAction(Paste);
         EXPECT_EQ(std::pair(dialogs.pasteDialogs, sel().SelFloating), std::pair(1, true));
         EXPECT_EQ(undoSize(), 6u) << "an empty paste, committed, records a state";
-        expectPicture("Tk./bTT/.TT", 0, 0, 'g');
+        expectPicture("Tc./bTT/.TT", 0, 0, 'g');
         expectViews(true, false);
 
         // Only pure white turns transparent, and only in a plain paste.

@@ -11,11 +11,7 @@ class SelectionTest : public ToolsFixture {};
 TEST_F(SelectionTest, CommitOfAnUnmovedMarkedSelectionRecordsNothing) {
     for (const auto& [x, y] : {std::pair(-1, -1), std::pair(84, 36), std::pair(36, 60)}) {
         SCOPED_TRACE(testing::Message() << x << ", " << y);
-        startWithSize(1);
-        paint(3, 3, kRed);
-        paint(4, 3, kBlue, kWhite);
-        paint(3, 5, kRed, kWhite); // outside the selection: left alone
-        recordPainting();
+        startWith(1, "/.../.../...ri/.../...i", 'T'); // (3, 5) lies outside the mark
         editor->doc().modified = false;
         mark(36, 36, 72, 48); // icon pixels (3, 3) to (5, 3)
         if (x < 0)
@@ -28,7 +24,7 @@ TEST_F(SelectionTest, CommitOfAnUnmovedMarkedSelectionRecordsNothing) {
         expectPicture("r../.../i..", 3, 3, 'T');
         expectViews(false, x >= 0);
         editor->editAction(Redo);
-        EXPECT_EQ(pixelAt(4, 3), std::pair(kBlue, kWhite));
+        expectPicture("ri./.../i..", 3, 3, 'T');
         expectViews();
     }
 }
@@ -93,10 +89,8 @@ TEST_F(SelectionTest, MarkingSnapsOrdersAndClampsTheCornersAndShowsOnlyTheLatest
 }
 
 TEST_F(SelectionTest, MovingAMarkedSelectionLiftsItAndCommitsOnce) {
-    paint(2, 2, kRed);
-    paint(3, 3, kBlue);
-    paint(6, 4, kGreen); // will lie under the moved selection's transparent corner
-    recordPainting();
+    // (6, 4) will lie under the moved selection's transparent corner.
+    startWith(1, "/../..r/...b/......g", 'T');
     mark(24, 24, 48, 48); // icon pixels (2, 2) to (3, 3)
 
     // SelRect's right and bottom edges are the corners of the cells just past

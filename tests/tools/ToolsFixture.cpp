@@ -12,7 +12,8 @@ struct Look {
 };
 constexpr Look kLooks[] = {{'k', kBlack, kBlack},   {'g', 0x00FF00, kBlack},
                            {'r', 0x0000FF, kBlack}, {'b', 0xFF0000, kBlack},
-                           {'i', 0x0000FF, kWhite}, {'T', kBlack, kWhite}};
+                           {'c', 0xFFFF00, kBlack}, {'i', 0x0000FF, kWhite},
+                           {'T', kBlack, kWhite}};
 
 // "ab/cd" as the rows "ab" and "cd".
 std::vector<std::string> rowsOf(const char* picture) {

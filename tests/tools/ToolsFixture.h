@@ -16,13 +16,15 @@ inline Plane numberedPlane(int width, int height) {
 
 // The editor fixture with the vocabulary of the tool and editing tests: icon
 // pixels as canvas points, and both planes as small pictures, '/' between
-// rows, in letters: 'k' black, 'g' green, 'r' red, 'b' blue (all opaque), 'i'
-// inverting red, 'T' transparent, '.' the picture's background letter.
+// rows, in letters: 'k' black, 'g' green, 'r' red, 'b' blue, 'c' cyan (all
+// opaque), 'i' inverting red, 'T' transparent, '.' the picture's background
+// letter.
 class ToolsFixture : public EditorFixture {
   protected:
     static constexpr Colour kRed = 0x0000FF;
     static constexpr Colour kBlue = 0xFF0000;
     static constexpr Colour kGreen = 0x00FF00;
+    static constexpr Colour kCyan = 0xFFFF00;
     using enum EditAction;
 
     int zoom() const { return editor->doc().zoom; }
@@ -41,11 +43,6 @@ class ToolsFixture : public EditorFixture {
     void paint(int x, int y, Colour c, Colour mask = kBlack) {
         editor->doc().PicImage.setPixel(x, y, c);
         editor->doc().PicMask.setPixel(x, y, mask);
-    }
-    // Shows the painted planes and records them, as an edit does.
-    void recordPainting() {
-        editor->refresh();
-        editor->recordEdit();
     }
     // Drags the Select tool from canvas point (x1, y1) to (x2, y2).
     void mark(int x1, int y1, int x2, int y2);
