@@ -61,8 +61,7 @@ TEST_F(ClipboardTest, CopyCutPasteDeleteAndUndoFollowTheMenuAtEverySize) {
         dialogs.pasteDialogs = 0;
         clipboard.picture = Plane(49, 49, kBlue); // no scripted answer: Cancel
         editor->editAction(PasteOpaque);
-        EXPECT_EQ(std::pair(dialogs.pasteDialogs, sel().PasteChoice), std::pair(1, -1));
-        EXPECT_TRUE(sel().SelMarked);
+        EXPECT_EQ(std::pair(dialogs.pasteDialogs, sel().SelMarked), std::pair(1, true));
         expectViews(false, true);
         clipboard.picture = Plane(0, 40);
         editor->editAction(Paste);
@@ -83,19 +82,6 @@ TEST_F(ClipboardTest, CopyCutPasteDeleteAndUndoFollowTheMenuAtEverySize) {
             EXPECT_EQ(AsciiArt::fromPlane(doc().PicSelMask, palette), AsciiArt::text({mask}));
         }
     }
-}
-
-// A paste first puts the floating selection down where it was moved to, so
-// the new picture lands only where it floats, at the top-left.
-TEST_F(ClipboardTest, APastePutsTheFloatingSelectionDownFirst) {
-    startWith(0, "", 'g');
-    clipboard.picture = Plane(1, 1, kRed);
-    editor->editAction(Paste);
-    drag(1, {{at(0), at(0)}, {at(2), at(2)}});
-    clipboard.picture = Plane(1, 1, kBlue);
-    editor->editAction(Paste);
-    editor->editAction(Deselect);
-    expectPicture("b../.../..r", 0, 0, 'g');
 }
 
 // Red left half, blue right half, a white top-left pixel unless one wide.
@@ -119,7 +105,6 @@ TEST_F(ClipboardTest, OnlyAPictureLargerThanTheIconAsksAndIsShrunkAsChosen) {
         editor->editAction(Paste);
 
         EXPECT_EQ(dialogs.pasteDialogs, c.dialogs);
-        EXPECT_EQ(sel().PasteChoice, c.dialogs ? c.option : -1);
         EXPECT_TRUE(doc().modified);
         const int w = doc().PicSelMask.width(), h = doc().PicSelMask.height();
         EXPECT_EQ(std::pair(w, h), std::pair(c.fitWidth, c.fitHeight));

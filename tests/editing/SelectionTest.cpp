@@ -117,9 +117,13 @@ TEST_F(SelectionTest, MovingAMarkedSelectionLiftsItAndCommitsOnce) {
     drag(2, {{70, 60}, {58, 48}});
     expectViews(true, true);
 
-    editor->editAction(Deselect);
+    // A paste puts it down where it was moved to before the new picture
+    // floats, at the top-left.
+    clipboard.picture = Plane(1, 1, kBlue);
+    editor->editAction(Paste);
     EXPECT_EQ(undoSize(), 3u);
-    expectPicture("r../.bg", 4, 3, 'T');
+    editor->editAction(Deselect);
+    expectPicture("b///....r/.....bg", 0, 0, 'T');
 }
 
 } // namespace
