@@ -68,10 +68,35 @@ TEST_F(UndoRedoTest, EachToolRecordsOneStateThatUndoAndRedoStepThrough) {
     EXPECT_EQ(undoSize(), states.size());
     editor->undo();
     EXPECT_EQ(state(), states[states.size() - 2]);
-    // New starts a history of its own, with nothing to undo or redo.
-    dialogs.prompts.push_back(PromptAnswer::No);
-    editor->newIcon(0);
-    EXPECT_EQ(enabling({Undo, Redo}), "--");
+}
+
+// New clears both planes, the colours and the history, redo list and all.
+TEST_F(UndoRedoTest, NewStartsEverySizeFullyTransparentWithAHistoryOfItsOwn) {
+    const struct {
+        int index, size, zoom, previewLeft, previewTop;
+    } cases[] = {{2, 48, 8, 432, 14}, {0, 16, 24, 448, 30}, {1, 32, 12, 440, 22}};
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.size);
+        editor->recordEdit();
+        editor->undo(); // leaves a state to redo
+        draw("", 'r');
+        editor->doc().modified = false;
+        editor->colours().value = {0x123456, kTransparentColour};
+        editor->newIcon(c.index);
+        EXPECT_EQ(std::tuple(doc().size, doc().zoom, doc().maxIndex),
+                  std::tuple(c.size, c.zoom, c.size - 1));
+        EXPECT_EQ(editor->colours().value, (std::array<std::int32_t, 2>{kBlack, kWhite}));
+        EXPECT_EQ(std::pair(editor->canvas().previewLeft, editor->canvas().previewTop),
+                  std::pair(c.previewLeft, c.previewTop));
+        EXPECT_EQ(std::tuple(doc().PicImage, doc().PicMask, doc().PicSelMask.height()),
+                  std::tuple(Plane(c.size, c.size, kBlack), Plane(c.size, c.size, kWhite), c.size));
+        EXPECT_EQ(IconDocument::indexForSize(c.size), c.index);
+        EXPECT_EQ(std::pair(undoSize(), enabling({Redo})),
+                  std::pair(std::size_t{1}, std::string("-")));
+        EXPECT_FALSE(doc().modified);
+        EXPECT_EQ(editor->windowTitle(), "Brevik - Untitled");
+    }
+    EXPECT_EQ(IconDocument::indexForSize(24), -1);
 }
 
 } // namespace
