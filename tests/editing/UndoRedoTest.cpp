@@ -80,7 +80,8 @@ TEST_F(UndoRedoTest, NewStartsEverySizeFullyTransparentWithAHistoryOfItsOwn) {
         editor->recordEdit();
         editor->undo(); // leaves a state to redo
         draw("", 'r');
-        editor->doc().modified = false;
+        editor->doc().modified = true;
+        dialogs.prompts.push_back(PromptAnswer::No); // drop the changes
         editor->colours().value = {0x123456, kTransparentColour};
         editor->newIcon(c.index);
         EXPECT_EQ(std::tuple(doc().size, doc().zoom, doc().maxIndex),
