@@ -2,18 +2,16 @@
 
 #include "canvas/Canvas.h"
 
+#include <map>
 #include <vector>
 
 namespace {
 
-struct Look {
-    char letter;
-    Colour colour, mask;
-};
-constexpr Look kLooks[] = {{'k', kBlack, kBlack},   {'g', 0x00FF00, kBlack},
-                           {'r', 0x0000FF, kBlack}, {'b', 0xFF0000, kBlack},
-                           {'c', 0xFFFF00, kBlack}, {'i', 0x0000FF, kWhite},
-                           {'T', kBlack, kWhite}};
+// Each letter's colour and mask.
+const std::map<char, std::pair<Colour, Colour>> kLooks{
+    {'k', {kBlack, kBlack}},   {'g', {0x00FF00, kBlack}}, {'r', {0x0000FF, kBlack}},
+    {'b', {0xFF0000, kBlack}}, {'c', {0xFFFF00, kBlack}}, {'i', {0x0000FF, kWhite}},
+    {'T', {kBlack, kWhite}}};
 
 // "ab/cd" as the rows "ab" and "cd".
 std::vector<std::string> rowsOf(const char* picture) {
@@ -39,10 +37,9 @@ void ToolsFixture::draw(const char* picture, char background) {
     const auto rows = rowsOf(picture);
     for (int y = 0; y < doc().size; ++y)
         for (int x = 0; x < doc().size; ++x) {
-            const char letter = letterAt(rows, x, y) == '.' ? background : letterAt(rows, x, y);
-            for (const Look& look : kLooks)
-                if (look.letter == letter)
-                    paint(x, y, look.colour, look.mask);
+            const char letter = letterAt(rows, x, y);
+            const auto [colour, mask] = kLooks.at(letter == '.' ? background : letter);
+            paint(x, y, colour, mask);
         }
     editor->refresh();
 }
@@ -56,11 +53,11 @@ void ToolsFixture::expectPicture(const char* expected, int ox, int oy, char back
         have += '\n';
         for (int x = 0; x < doc().size; ++x) {
             want += letterAt(rows, x - ox, y - oy);
-            char letter = '?';
-            for (const Look& look : kLooks)
-                if (pixelAt(x, y) == std::make_pair(look.colour, look.mask))
-                    letter = look.letter == background ? '.' : look.letter;
-            have += letter;
+            char shown = '?';
+            for (const auto& [letter, look] : kLooks)
+                if (pixelAt(x, y) == look)
+                    shown = letter == background ? '.' : letter;
+            have += shown;
         }
     }
     EXPECT_EQ(have, want);
