@@ -9,6 +9,8 @@ namespace {
 class ClipboardTest : public ToolsFixture {};
 
 TEST_F(ClipboardTest, CopyCutPasteDeleteAndUndoFollowTheMenuAtEverySize) {
+    const AsciiArt::Palette palette{{'.', kWhite}, {'#', kBlack}, {'r', kRed},
+                                    {'b', kBlue},  {'c', kCyan},  {'n', rgb(254, 255, 255)}};
     for (int sizeIndex : {0, 1, 2}) {
         SCOPED_TRACE(sizeIndex);
         startWith(sizeIndex, "/.ri/.bT", 'g');
@@ -24,8 +26,7 @@ TEST_F(ClipboardTest, CopyCutPasteDeleteAndUndoFollowTheMenuAtEverySize) {
         editor->editAction(Copy);
         // Transparent pixels go to the clipboard white, an inverting one as
         // white XOR its colour; the selection stays and nothing is recorded.
-        Plane copied(2, 2, kWhite);
-        copied.setPixel(0, 0, kRed), copied.setPixel(1, 0, kCyan), copied.setPixel(0, 1, kBlue);
+        const Plane copied = AsciiArt::toPlane({"rc", "b."}, palette);
         EXPECT_EQ(clipboard.picture, copied);
         editor->editAction(Cut);
         EXPECT_EQ(enabling(), "--++--+");
@@ -69,8 +70,6 @@ TEST_F(ClipboardTest, CopyCutPasteDeleteAndUndoFollowTheMenuAtEverySize) {
         expectViews(true, false);
 
         // Only pure white turns transparent, and only in a plain paste.
-        const AsciiArt::Palette palette{
-            {'.', kWhite}, {'#', kBlack}, {'r', kRed}, {'n', rgb(254, 255, 255)}};
         clipboard.picture = AsciiArt::toPlane({".rn"}, palette);
         for (const auto& [item, image, mask] :
              {std::tuple(Paste, "#rn", ".##"), std::tuple(PasteOpaque, ".rn", "###")}) {

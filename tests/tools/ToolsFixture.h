@@ -64,9 +64,8 @@ class ToolsFixture : public EditorFixture {
     void expectViews(bool withFloating = false, bool withMarquee = false) const {
         expectCanvas(withFloating ? &Canvas::drawFloating : nullptr, withMarquee);
     }
-    // Canvas and preview as the redraw after an operation on a selection
-    // leaves them: the selection over the document, no grid over it, and the
-    // marquee.
+    // Canvas and preview as an operation on a selection redraws them: the
+    // selection over the document, no grid over it, and the marquee.
     void expectRedrawnSelection() const { expectCanvas(&Canvas::stampFloating, true); }
     // The menu items given, each as "+" enabled or "-".
     std::string enabling(std::initializer_list<EditAction> items = {
