@@ -29,27 +29,6 @@ TEST_F(SelectionTest, CommitOfAnUnmovedMarkedSelectionRecordsNothing) {
     }
 }
 
-TEST_F(SelectionTest, SelectAllOrAnotherToolCommitsAFloatingSelectionAndDeleteDropsIt) {
-    for (const std::string s : {"Select All", "Line", "Delete"}) {
-        SCOPED_TRACE(s);
-        startWithSize(1);
-        clipboard.picture = Plane(2, 1, kBlue);
-        editor->editAction(Paste);
-        EXPECT_EQ(editor->tools().currentTool, DrawingTools::Select);
-        EXPECT_EQ(editor->tools().previousTool, DrawingTools::Pencil);
-        if (s == "Line")
-            editor->tools().chooseTool(DrawingTools::Line);
-        else
-            editor->editAction(s == "Delete" ? Delete : SelectAll);
-        EXPECT_EQ(undoSize(), 2u);
-        expectPicture(s == "Delete" ? "." : "bb", 0, 0, 'T');
-        EXPECT_EQ(std::pair(sel().SelFloating, sel().SelMarked),
-                  std::pair(false, s == "Select All"));
-        EXPECT_TRUE(s != "Select All" || doc().PicSelImage == doc().PicImage);
-        expectViews(false, s == "Select All");
-    }
-}
-
 // The right button marks as the left one does. A rectangle without area is
 // no selection.
 TEST_F(SelectionTest, MarkingSnapsOrdersAndClampsTheCornersAndShowsOnlyTheLatestBox) {
@@ -88,7 +67,7 @@ TEST_F(SelectionTest, MarkingSnapsOrdersAndClampsTheCornersAndShowsOnlyTheLatest
     }
 }
 
-TEST_F(SelectionTest, MovingAMarkedSelectionLiftsItAndCommitsOnce) {
+TEST_F(SelectionTest, AMovedSelectionCommitsOnceWhereItFloatsAsEveryWayToEndOneDoes) {
     // (6, 4) will lie under the moved selection's transparent corner.
     startWith(1, "/../..r/...b/......g", 'T');
     mark(24, 24, 48, 48); // icon pixels (2, 2) to (3, 3)
@@ -122,8 +101,24 @@ TEST_F(SelectionTest, MovingAMarkedSelectionLiftsItAndCommitsOnce) {
     clipboard.picture = Plane(1, 1, kBlue);
     editor->editAction(Paste);
     EXPECT_EQ(undoSize(), 3u);
-    editor->editAction(Deselect);
+    // Another tool commits a floating selection, and a paste goes back to
+    // Select; Delete drops what floats, and records that.
+    editor->tools().chooseTool(DrawingTools::Line);
+    clipboard.picture = Plane(2, 1, kRed);
+    editor->editAction(Paste);
+    EXPECT_EQ(editor->tools().currentTool, DrawingTools::Select);
+    EXPECT_EQ(editor->tools().previousTool, DrawingTools::Line);
+    editor->editAction(Delete);
+    EXPECT_EQ(std::pair(undoSize(), sel().SelFloating), std::pair(std::size_t{5}, false));
     expectPicture("b///....r/.....bg", 0, 0, 'T');
+    expectViews();
+    // Select All commits what floats and marks the whole icon.
+    editor->editAction(Paste);
+    editor->editAction(SelectAll);
+    EXPECT_EQ(std::pair(undoSize(), sel().SelFloating), std::pair(std::size_t{6}, false));
+    EXPECT_TRUE(sel().SelMarked && doc().PicSelImage == doc().PicImage);
+    expectPicture("rr///....r/.....bg", 0, 0, 'T');
+    expectViews(false, true);
 }
 
 } // namespace
