@@ -54,7 +54,6 @@ TEST_F(SelectionTest, MarkingSnapsOrdersAndClampsTheCornersAndShowsOnlyTheLatest
         press(c.button, c.x1, c.y1);
         move(c.button, 200, 150);
         move(c.button, c.x2, c.y2);
-        EXPECT_TRUE(editor->tools().select.marking);
         EXPECT_EQ(editor->readoutToXY(), c.size);
         expectViews(false, true);
         release(c.button, c.x2, c.y2);
