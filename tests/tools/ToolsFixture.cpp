@@ -2,8 +2,9 @@
 
 #include "canvas/Canvas.h"
 
+#include <algorithm>
 #include <map>
-#include <vector>
+#include <string_view>
 
 namespace {
 
@@ -13,31 +14,24 @@ const std::map<char, std::pair<Colour, Colour>> kLooks{
     {'b', {0xFF0000, kBlack}}, {'c', {0xFFFF00, kBlack}}, {'i', {0x0000FF, kWhite}},
     {'T', {kBlack, kWhite}}};
 
-// "ab/cd" as the rows "ab" and "cd".
-std::vector<std::string> rowsOf(const char* picture) {
-    std::vector<std::string> rows(1);
-    for (const char* c = picture; *c; ++c)
-        if (*c == '/')
-            rows.emplace_back();
-        else
-            rows.back().push_back(*c);
-    return rows;
-}
-
-// The picture's letter at (x, y), '.' outside it.
-char letterAt(const std::vector<std::string>& rows, int x, int y) {
-    const bool inside = y >= 0 && y < static_cast<int>(rows.size()) && x >= 0 &&
-                        x < static_cast<int>(rows[y].size());
-    return inside ? rows[y][x] : '.';
+// The letter at (x, y) of a picture written "ab/cd", '.' outside it.
+char letterAt(std::string_view picture, int x, int y) {
+    for (int row = 0; row < y; ++row) {
+        const auto slash = picture.find('/');
+        if (slash == std::string_view::npos)
+            return '.';
+        picture.remove_prefix(slash + 1);
+    }
+    const auto width = static_cast<int>(std::min(picture.find('/'), picture.size()));
+    return y >= 0 && x >= 0 && x < width ? picture[x] : '.';
 }
 
 } // namespace
 
 void ToolsFixture::draw(const char* picture, char background) {
-    const auto rows = rowsOf(picture);
     for (int y = 0; y < doc().size; ++y)
         for (int x = 0; x < doc().size; ++x) {
-            const char letter = letterAt(rows, x, y);
+            const char letter = letterAt(picture, x, y);
             const auto [colour, mask] = kLooks.at(letter == '.' ? background : letter);
             paint(x, y, colour, mask);
         }
@@ -46,13 +40,12 @@ void ToolsFixture::draw(const char* picture, char background) {
 
 // Compares the whole icon as rows of letters, so a failure shows both.
 void ToolsFixture::expectPicture(const char* expected, int ox, int oy, char background) const {
-    const auto rows = rowsOf(expected);
     std::string want, have;
     for (int y = 0; y < doc().size; ++y) {
         want += '\n';
         have += '\n';
         for (int x = 0; x < doc().size; ++x) {
-            want += letterAt(rows, x - ox, y - oy);
+            want += letterAt(expected, x - ox, y - oy);
             char shown = '?';
             for (const auto& [letter, look] : kLooks)
                 if (pixelAt(x, y) == look)
