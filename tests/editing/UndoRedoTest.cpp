@@ -6,18 +6,13 @@ namespace {
 
 constexpr Colour kTeal = 0x808000;
 using T = DrawingTools;
-
-class UndoRedoTest : public ToolsFixture {
-  protected:
-    std::pair<Plane, Plane> state() const {
-        return {editor->doc().PicImage, editor->doc().PicMask};
-    }
-};
+using UndoRedoTest = ToolsFixture;
 
 // Every tool that changes the picture records exactly one state, at
 // mouse-up; Sample and Select record nothing. Each tool draws in a colour of
 // its own over the last, so every recorded state differs from the one before.
 TEST_F(UndoRedoTest, EachToolRecordsOneStateThatUndoAndRedoStepThrough) {
+    const auto state = [this] { return std::pair(doc().PicImage, doc().PicMask); };
     std::vector<std::pair<Plane, Plane>> states{state()};
     for (const int tool :
          {T::Select, T::Pencil, T::Erase, T::Sample, T::Flood, T::Line, T::Rectangle, T::Ellipse,
