@@ -103,9 +103,8 @@ TEST_F(ClipboardTest, OnlyAPictureLargerThanTheIconAsksAndIsShrunkAsChosen) {
         EXPECT_EQ(dialogs.pasteDialogs, c.dialogs);
         EXPECT_TRUE(doc().modified);
         const int w = doc().PicSelMask.width(), h = doc().PicSelMask.height();
-        EXPECT_EQ(std::pair(w, h), std::pair(c.fitWidth, c.fitHeight));
-        EXPECT_EQ(std::pair(rect().Right, rect().Bottom),
-                  std::pair(w * doc().zoom, h * doc().zoom));
+        EXPECT_EQ(std::tuple(w, h, rect().Right, rect().Bottom),
+                  std::tuple(c.fitWidth, c.fitHeight, w * doc().zoom, h * doc().zoom));
         // Shrunk, not cut: the white corner stays transparent, and the blue
         // half reaches the middle.
         EXPECT_EQ(doc().PicSelMask.pixel(0, 0), c.width > 1 ? kWhite : kBlack);
