@@ -24,7 +24,6 @@ TEST_F(SelectionTest, CommitOfAnUnmovedMarkedSelectionRecordsNothing) {
         expectViews(false, x >= 0);
         editor->editAction(Redo);
         expectPicture("ri./.../i..", 3, 3, 'T');
-        expectViews();
     }
 }
 
@@ -109,7 +108,6 @@ TEST_F(SelectionTest, AMovedSelectionCommitsOnceWhereItFloatsAsEveryWayToEndOneD
     editor->editAction(Delete);
     EXPECT_EQ(std::pair(undoSize(), sel().SelFloating), std::pair(std::size_t{5}, false));
     expectPicture("b///....r/.....bg", 0, 0, 'T');
-    expectViews();
     // Select All commits what floats and marks the whole icon.
     editor->editAction(Paste);
     editor->editAction(SelectAll);
