@@ -11,11 +11,7 @@ class SelectionTest : public ToolsFixture {};
 TEST_F(SelectionTest, CommitOfAnUnmovedMarkedSelectionRecordsNothing) {
     for (const auto& [x, y] : {std::pair(-1, -1), std::pair(84, 36), std::pair(36, 60)}) {
         SCOPED_TRACE(testing::Message() << x << ", " << y);
-        startWithSize(1);
-        paint(3, 3, kRed);
-        paint(4, 3, kBlue, kWhite);
-        paint(3, 5, kRed, kWhite); // outside the selection: left alone
-        recordPainting();
+        startWith(1, "/.../.../...ri/.../...i", 'T'); // (3, 5) lies outside the mark
         editor->doc().modified = false;
         mark(36, 36, 72, 48); // icon pixels (3, 3) to (5, 3)
         if (x < 0)
@@ -23,34 +19,11 @@ TEST_F(SelectionTest, CommitOfAnUnmovedMarkedSelectionRecordsNothing) {
         else
             mark(x, y, 180, 168);
         EXPECT_EQ(std::pair(rect().Left, rect().Top), std::pair(x, y));
-        EXPECT_EQ(undoSize(), 2u);
         EXPECT_FALSE(doc().modified);
         expectPicture("r../.../i..", 3, 3, 'T');
         expectViews(false, x >= 0);
         editor->editAction(Redo);
-        EXPECT_EQ(pixelAt(4, 3), std::pair(kBlue, kWhite));
-        expectViews();
-    }
-}
-
-TEST_F(SelectionTest, SelectAllOrAnotherToolCommitsAFloatingSelectionAndDeleteDropsIt) {
-    for (const std::string s : {"Select All", "Line", "Delete"}) {
-        SCOPED_TRACE(s);
-        startWithSize(1);
-        clipboard.picture = Plane(2, 1, kBlue);
-        editor->editAction(Paste);
-        EXPECT_EQ(editor->tools().currentTool, DrawingTools::Select);
-        EXPECT_EQ(editor->tools().previousTool, DrawingTools::Pencil);
-        if (s == "Line")
-            editor->tools().chooseTool(DrawingTools::Line);
-        else
-            editor->editAction(s == "Delete" ? Delete : SelectAll);
-        EXPECT_EQ(undoSize(), 2u);
-        expectPicture(s == "Delete" ? "." : "bb", 0, 0, 'T');
-        EXPECT_EQ(std::pair(sel().SelFloating, sel().SelMarked),
-                  std::pair(false, s == "Select All"));
-        EXPECT_TRUE(s != "Select All" || doc().PicSelImage == doc().PicImage);
-        expectViews(false, s == "Select All");
+        expectPicture("ri./.../i..", 3, 3, 'T');
     }
 }
 
@@ -79,7 +52,6 @@ TEST_F(SelectionTest, MarkingSnapsOrdersAndClampsTheCornersAndShowsOnlyTheLatest
         press(c.button, c.x1, c.y1);
         move(c.button, 200, 150);
         move(c.button, c.x2, c.y2);
-        EXPECT_TRUE(editor->tools().select.marking);
         EXPECT_EQ(editor->readoutToXY(), c.size);
         expectViews(false, true);
         release(c.button, c.x2, c.y2);
@@ -92,11 +64,9 @@ TEST_F(SelectionTest, MarkingSnapsOrdersAndClampsTheCornersAndShowsOnlyTheLatest
     }
 }
 
-TEST_F(SelectionTest, MovingAMarkedSelectionLiftsItAndCommitsOnce) {
-    paint(2, 2, kRed);
-    paint(3, 3, kBlue);
-    paint(6, 4, kGreen); // will lie under the moved selection's transparent corner
-    recordPainting();
+TEST_F(SelectionTest, AMovedSelectionCommitsOnceWhereItFloatsAsEveryWayToEndOneDoes) {
+    // (6, 4) will lie under the moved selection's transparent corner.
+    startWith(1, "/../..r/...b/......g", 'T');
     mark(24, 24, 48, 48); // icon pixels (2, 2) to (3, 3)
 
     // SelRect's right and bottom edges are the corners of the cells just past
@@ -121,11 +91,29 @@ TEST_F(SelectionTest, MovingAMarkedSelectionLiftsItAndCommitsOnce) {
     // Floating now, it moves again without clearing what lies under it; the
     // right button moves it as well.
     drag(2, {{70, 60}, {58, 48}});
-    expectViews(true, true);
 
-    editor->editAction(Deselect);
+    // A paste puts it down where it was moved to before the new picture
+    // floats, at the top-left.
+    clipboard.picture = Plane(1, 1, kBlue);
+    editor->editAction(Paste);
     EXPECT_EQ(undoSize(), 3u);
-    expectPicture("r../.bg", 4, 3, 'T');
+    // Another tool commits a floating selection, and a paste goes back to
+    // Select; Delete drops what floats, and records that.
+    editor->tools().chooseTool(DrawingTools::Line);
+    clipboard.picture = Plane(2, 1, kRed);
+    editor->editAction(Paste);
+    EXPECT_EQ(editor->tools().currentTool, DrawingTools::Select);
+    EXPECT_EQ(editor->tools().previousTool, DrawingTools::Line);
+    editor->editAction(Delete);
+    EXPECT_EQ(std::pair(undoSize(), sel().SelFloating), std::pair(std::size_t{5}, false));
+    expectPicture("b///....r/.....bg", 0, 0, 'T');
+    // Select All commits what floats and marks the whole icon.
+    editor->editAction(Paste);
+    editor->editAction(SelectAll);
+    EXPECT_EQ(std::pair(undoSize(), sel().SelFloating), std::pair(std::size_t{6}, false));
+    EXPECT_TRUE(sel().SelMarked && doc().PicSelImage == doc().PicImage);
+    expectPicture("rr///....r/.....bg", 0, 0, 'T');
+    expectViews(false, true);
 }
 
 } // namespace

@@ -6,23 +6,13 @@ namespace {
 
 constexpr Colour kTeal = 0x808000;
 using T = DrawingTools;
-
-class UndoRedoTest : public ToolsFixture {
-  protected:
-    std::pair<Plane, Plane> state() const {
-        return {editor->doc().PicImage, editor->doc().PicMask};
-    }
-    // Undo and Redo enabled, as "+-" and the like.
-    std::string enabling() const {
-        return std::string(editor->editActionEnabled(Undo) ? "+" : "-") +
-               (editor->editActionEnabled(Redo) ? "+" : "-");
-    }
-};
+using UndoRedoTest = ToolsFixture;
 
 // Every tool that changes the picture records exactly one state, at
 // mouse-up; Sample and Select record nothing. Each tool draws in a colour of
 // its own over the last, so every recorded state differs from the one before.
 TEST_F(UndoRedoTest, EachToolRecordsOneStateThatUndoAndRedoStepThrough) {
+    const auto state = [this] { return std::pair(doc().PicImage, doc().PicMask); };
     std::vector<std::pair<Plane, Plane>> states{state()};
     for (const int tool :
          {T::Select, T::Pencil, T::Erase, T::Sample, T::Flood, T::Line, T::Rectangle, T::Ellipse,
@@ -50,7 +40,7 @@ TEST_F(UndoRedoTest, EachToolRecordsOneStateThatUndoAndRedoStepThrough) {
         editor->undo();
         EXPECT_EQ(state(), states[i]) << i;
     }
-    EXPECT_EQ(enabling(), "-+");
+    EXPECT_EQ(enabling({Undo, Redo}), "-+");
     // The shortcut with nothing to undo leaves the picture as it is but moves
     // the first entry to the redo list too, and Redo brings it back.
     editor->undo();
@@ -60,7 +50,6 @@ TEST_F(UndoRedoTest, EachToolRecordsOneStateThatUndoAndRedoStepThrough) {
         editor->redo();
         EXPECT_EQ(state(), states[i]) << i;
     }
-    EXPECT_EQ(enabling(), "+-");
     expectViews(false, false);
 
     // A new edit after Undo empties the redo list already at mouse-down, and
@@ -68,15 +57,41 @@ TEST_F(UndoRedoTest, EachToolRecordsOneStateThatUndoAndRedoStepThrough) {
     editor->undo();
     editor->tools().chooseTool(T::Pencil);
     press(1, at(31), at(31));
-    EXPECT_EQ(enabling(), "+-");
+    EXPECT_EQ(enabling({Undo, Redo}), "+-");
     release(1, at(31), at(31));
     EXPECT_EQ(undoSize(), states.size());
     editor->undo();
     EXPECT_EQ(state(), states[states.size() - 2]);
-    // New starts a history of its own, with nothing to undo or redo.
-    dialogs.prompts.push_back(PromptAnswer::No);
-    editor->newIcon(0);
-    EXPECT_EQ(enabling(), "--");
+}
+
+// New clears both planes, the colours and the history, redo list and all.
+TEST_F(UndoRedoTest, NewStartsEverySizeFullyTransparentWithAHistoryOfItsOwn) {
+    const struct {
+        int index, size, zoom, previewLeft, previewTop;
+    } cases[] = {{2, 48, 8, 432, 14}, {0, 16, 24, 448, 30}, {1, 32, 12, 440, 22}};
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.size);
+        editor->recordEdit();
+        editor->undo(); // leaves a state to redo
+        draw("", 'r');
+        editor->doc().modified = true;
+        dialogs.prompts.push_back(PromptAnswer::No); // drop the changes
+        editor->colours().value = {0x123456, kTransparentColour};
+        editor->newIcon(c.index);
+        EXPECT_EQ(std::tuple(doc().size, doc().zoom, doc().maxIndex),
+                  std::tuple(c.size, c.zoom, c.size - 1));
+        EXPECT_EQ(editor->colours().value, (std::array<std::int32_t, 2>{kBlack, kWhite}));
+        EXPECT_EQ(std::pair(editor->canvas().previewLeft, editor->canvas().previewTop),
+                  std::pair(c.previewLeft, c.previewTop));
+        EXPECT_EQ(std::tuple(doc().PicImage, doc().PicMask, doc().PicSelMask.height()),
+                  std::tuple(Plane(c.size, c.size, kBlack), Plane(c.size, c.size, kWhite), c.size));
+        EXPECT_EQ(IconDocument::indexForSize(c.size), c.index);
+        EXPECT_EQ(std::pair(undoSize(), enabling({Redo})),
+                  std::pair(std::size_t{1}, std::string("-")));
+        EXPECT_FALSE(doc().modified);
+        EXPECT_EQ(editor->windowTitle(), "Brevik - Untitled");
+    }
+    EXPECT_EQ(IconDocument::indexForSize(24), -1);
 }
 
 } // namespace

@@ -36,7 +36,6 @@ class ScriptedDialogs : public EditorDialogs {
         return takeOr(pasteOptions, -1);
     }
     std::optional<HotSpot> chooseHotSpot(const Plane&, int, int) override {
-        ++hotSpotDialogs;
         return takeOr(hotSpots);
     }
     bool adjustColours(ColourAdjustment& adjustment) override {
@@ -82,7 +81,6 @@ class ScriptedDialogs : public EditorDialogs {
     std::vector<QString> fileStartFolders;
     std::vector<QStringList> iconListings;
     int pasteDialogs = 0;
-    int hotSpotDialogs = 0;
     std::vector<int> gradientSizes;
     std::vector<QString> extractStartFiles;
     std::vector<int> textSizes;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "canvas/Canvas.h"
 #include "support/EditorFixture.h"
 
 #include <string>
@@ -15,13 +16,15 @@ inline Plane numberedPlane(int width, int height) {
 
 // The editor fixture with the vocabulary of the tool and editing tests: icon
 // pixels as canvas points, and both planes as small pictures, '/' between
-// rows, in letters: 'k' black, 'g' green, 'r' red, 'b' blue (all opaque), 'i'
-// inverting red, 'T' transparent, '.' the picture's background letter.
+// rows, in letters: 'k' black, 'g' green, 'r' red, 'b' blue, 'c' cyan (all
+// opaque), 'i' inverting red, 'T' transparent, '.' the picture's background
+// letter.
 class ToolsFixture : public EditorFixture {
   protected:
     static constexpr Colour kRed = 0x0000FF;
     static constexpr Colour kBlue = 0xFF0000;
     static constexpr Colour kGreen = 0x00FF00;
+    static constexpr Colour kCyan = 0xFFFF00;
     using enum EditAction;
 
     int zoom() const { return editor->doc().zoom; }
@@ -41,11 +44,6 @@ class ToolsFixture : public EditorFixture {
         editor->doc().PicImage.setPixel(x, y, c);
         editor->doc().PicMask.setPixel(x, y, mask);
     }
-    // Shows the painted planes and records them, as an edit does.
-    void recordPainting() {
-        editor->refresh();
-        editor->recordEdit();
-    }
     // Drags the Select tool from canvas point (x1, y1) to (x2, y2).
     void mark(int x1, int y1, int x2, int y2);
 
@@ -58,21 +56,27 @@ class ToolsFixture : public EditorFixture {
         draw(picture, background);
         editor->recordEdit();
     }
-    // The w x h block at (ox, oy) in letters.
-    std::string picture(int ox, int oy, int w, int h, char background) const;
     // The block at (ox, oy) shows the picture and every pixel outside it the
     // background.
     void expectPicture(const char* picture, int ox, int oy, char background) const;
     // Canvas and preview as a fresh canvas draws the document, with the
     // floating selection over it and the marquee around it when asked.
-    void expectViews(bool withFloating = false, bool withMarquee = false) const;
-    // Canvas and preview as the redraw after an operation on a selection
-    // leaves them: the selection over the document, no grid over it, and the
-    // marquee.
-    void expectRedrawnSelection() const;
+    void expectViews(bool withFloating = false, bool withMarquee = false) const {
+        expectCanvas(withFloating ? &Canvas::drawFloating : nullptr, withMarquee);
+    }
+    // Canvas and preview as an operation on a selection redraws them: the
+    // selection over the document, no grid over it, and the marquee.
+    void expectRedrawnSelection() const { expectCanvas(&Canvas::stampFloating, true); }
+    // The menu items given, each as "+" enabled or "-".
+    std::string enabling(std::initializer_list<EditAction> items = {
+                             Cut, Copy, Paste, PasteOpaque, Delete, Deselect, SelectAll}) const;
 
     std::size_t undoSize() const { return editor->undoRedo().UndoStack.size(); }
     Selection& sel() { return editor->selection(); }
     const Selection::Rect& rect() const { return editor->selection().SelRect; }
     const IconDocument& doc() const { return editor->doc(); }
+
+  private:
+    using FloatingDraw = void (Canvas::*)(const IconDocument&, int, int, int, int);
+    void expectCanvas(FloatingDraw drawSelection, bool withMarquee) const;
 };
