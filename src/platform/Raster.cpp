@@ -4,18 +4,6 @@
 #include <cstdlib>
 #include <vector>
 
-Colour applyRasterOp(Colour dst, Colour src, RasterOp op) {
-    switch (op) {
-    case RasterOp::Copy:
-        return src;
-    case RasterOp::And:
-        return dst & src;
-    case RasterOp::Xor:
-        return dst ^ src;
-    }
-    return src;
-}
-
 namespace {
 
 // Where each step of a span lands: origin + i for a positive extent,

@@ -9,8 +9,6 @@ enum class RasterOp {
     Xor,  // SRCINVERT: dst = dst XOR src
 };
 
-Colour applyRasterOp(Colour dst, Colour src, RasterOp op);
-
 // Block transfer of the w x h block at (sx, sy) of src to (dx, dy) of dst.
 // Pixels that fall outside either plane are skipped. src may be dst.
 void bitBlt(Plane& dst, int dx, int dy, int w, int h, const Plane& src, int sx, int sy,
