@@ -5,10 +5,9 @@
 #include <QProcess>
 #include <QString>
 #include <QTemporaryDir>
+#include <stdexcept>
 #include <utility>
 #include <vector>
-
-#include <gtest/gtest.h>
 
 // Builds a real resource-only DLL with the MinGW binutils (windres, then ld):
 // one ICON line per (name, .ico bytes). target is "x86_64" (PE32+) or "i686"
@@ -17,7 +16,8 @@ struct PeLibraryBuilder {
     QString target;
     std::vector<std::pair<QString, QByteArray>> icons;
 
-    // The DLL's bytes; a failure fails the test and says what failed.
+    // The DLL's bytes. A failure throws, which fails a test or stops a
+    // benchmark with what failed.
     QByteArray build() const {
         QTemporaryDir dir;
         QByteArray script;
@@ -39,9 +39,9 @@ struct PeLibraryBuilder {
                                           "icons.o; %1ld --dll -e 0 -o icons.dll icons.o")
                                       .arg(target + "-w64-mingw32-")});
         const bool built = tools.waitForFinished(60000) && tools.exitCode() == 0;
-        EXPECT_TRUE(built && dll.open(QIODevice::ReadOnly))
-            << "windres or ld failed (install binutils-mingw-w64): "
-            << tools.readAllStandardError().toStdString();
+        if (!built || !dll.open(QIODevice::ReadOnly))
+            throw std::runtime_error("windres or ld failed (install binutils-mingw-w64): " +
+                                     tools.readAllStandardError().toStdString());
         return dll.readAll();
     }
 };
