@@ -1,16 +1,16 @@
 #include "fileio/NeIconSource.h"
 
 #include "fileio/ExtractedImage.h"
+#include "fileio/NeLayout.h"
 
 #include <algorithm>
 
 namespace {
 
+using namespace NeLayout;
+
 constexpr quint32 kMzSignature = 0x5A4D; // "MZ"
 constexpr quint32 kNeSignature = 0x454E; // "NE"
-constexpr quint32 kIntegerId = 0x8000;
-constexpr quint32 kIcon = 0x8003;
-constexpr quint32 kGroupIcon = 0x800E;
 constexpr qint64 kTypeBytes = 8;
 constexpr qint64 kNameBytes = 12;
 // Beyond this a shifted 16-bit offset leaves any file this program reads.
@@ -36,7 +36,7 @@ bool NeIconSource::recognises(const QByteArray& bytes) {
     const ByteView in(bytes);
     if (!in.contains(0, 0x40) || in.u16(0) != kMzSignature)
         return false;
-    const qint64 header = in.u32(0x3C);
+    const qint64 header = in.u32(kNeHeaderField);
     return in.contains(header, 2) && in.u16(header) == kNeSignature;
 }
 
@@ -50,10 +50,10 @@ std::unique_ptr<NeIconSource> NeIconSource::open(QByteArray bytes, ReadFault& fa
 
 ReadFault NeIconSource::parse() {
     const ByteView in(bytes_);
-    const qint64 header = in.u32(0x3C);
+    const qint64 header = in.u32(kNeHeaderField);
     if (!in.contains(header, 0x40))
         return ReadFault::OutOfBounds;
-    const qint64 table = header + in.u16(header + 0x24);
+    const qint64 table = header + in.u16(header + kResourceTableField);
     if (!in.contains(table, 2))
         return ReadFault::OutOfBounds;
     const int shift = in.u16(table);

@@ -2,12 +2,12 @@
 
 #include "fileio/ByteWriter.h"
 #include "fileio/IconDirectory.h"
+#include "fileio/NeLayout.h"
 
 namespace {
 
-constexpr quint32 kIntegerId = 0x8000;
-constexpr quint32 kIcon = 0x8003;
-constexpr quint32 kGroupIcon = 0x800E;
+using namespace NeLayout;
+
 // Moveable, pure and discardable, as resource compilers mark icons.
 constexpr quint32 kResourceFlags = 0x1030;
 constexpr qint64 kNeHeader = 0x40;
@@ -110,7 +110,7 @@ std::optional<QByteArray> build(const std::vector<Resource>& groups,
     put16(0x04, 1);
     put16(0x08, 4);
     put16(0x18, kNeHeader);
-    put16(0x3C, kNeHeader);
+    put16(kNeHeaderField, kNeHeader);
     const qint64 ne = kNeHeader;
     out[ne] = 'N';
     out[ne + 1] = 'E';
@@ -120,7 +120,7 @@ std::optional<QByteArray> build(const std::vector<Resource>& groups,
     put16(ne + 0x0C, 0x8000); // a library
     put16(ne + 0x20, static_cast<quint32>(nonResident.size()));
     put16(ne + 0x22, kNeHeader); // the segment table, empty
-    put16(ne + 0x24, kNeHeader);
+    put16(ne + kResourceTableField, kNeHeader);
     put16(ne + 0x26, static_cast<quint32>(residentAt));
     put16(ne + 0x28, static_cast<quint32>(importedAt));
     put16(ne + 0x2A, static_cast<quint32>(importedAt));
